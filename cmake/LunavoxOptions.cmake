@@ -1,0 +1,18 @@
+option(LUNAVOX_TESTS "Build the tests" ON)
+option(LUNAVOX_BENCH "Build the benchmarks" OFF)
+set(LUNAVOX_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
+
+add_library(lunavox_options INTERFACE)
+target_compile_options(lunavox_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+                                                 -Wno-sign-conversion -Werror)
+if(LUNAVOX_SANITIZE)
+  target_compile_options(lunavox_options INTERFACE -fsanitize=${LUNAVOX_SANITIZE}
+                                                   -fno-omit-frame-pointer
+                                                   -fno-sanitize-recover=all)
+  target_link_options(lunavox_options INTERFACE -fsanitize=${LUNAVOX_SANITIZE})
+endif()
+
+find_program(LUNAVOX_CCACHE ccache)
+if(LUNAVOX_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${LUNAVOX_CCACHE}")
+endif()

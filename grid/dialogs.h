@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+
+namespace lunavox {
+
+enum class Icon { kNone, kCritical };
+enum class Buttons { kOk, kYesNoCancel };
+enum class Answer { kOk, kYes, kNo, kCancel };
+
+/// A message box.
+struct Message {
+  std::string text;
+  std::string title;  ///< empty: the application's own title
+  Icon icon = Icon::kNone;
+  Buttons buttons = Buttons::kOk;
+
+  bool operator==(const Message&) const = default;
+};
+
+/// An input box that asks for one text.
+struct Question {
+  std::string prompt;
+  std::string title;
+  std::string default_text;
+
+  bool operator==(const Question&) const = default;
+};
+
+/// A standard file dialog. The filter is "name|pattern;pattern".
+struct FileQuestion {
+  std::string filter;
+  std::string title;
+
+  bool operator==(const FileQuestion&) const = default;
+};
+
+/// What the editor asks and tells the user. The window shows boxes, tests answer from a script, a
+/// run without a window writes to standard error.
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  virtual Answer message(const Message& message) = 0;
+  /// The text entered, empty when cancelled.
+  virtual std::string input(const Question& question) = 0;
+  /// The chosen file, empty when cancelled.
+  virtual std::string open_file(const FileQuestion& question) = 0;
+  virtual std::string save_file(const FileQuestion& question) = 0;
+
+  /// The usual way to refuse something: critical icon, OK only.
+  void error(const std::string& text, const std::string& title = {}) {
+    message({text, title, Icon::kCritical, Buttons::kOk});
+  }
+};
+
+}  // namespace lunavox

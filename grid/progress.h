@@ -1,0 +1,45 @@
+#pragma once
+
+#include "grid/cell_grid.h"
+
+#include <string>
+
+namespace lunavox {
+
+/// The progress box `Form3`, "PLEASE WAIT...", with a text and a bar. While it is shown the main
+/// window is disabled.
+class ProgressBox {
+ public:
+  virtual ~ProgressBox() = default;
+  /// Shows the box with the bar at 0.
+  virtual void show(const std::string& caption, int maximum) = 0;
+  virtual void set_caption(const std::string& caption) = 0;
+  virtual void set_value(int value) = 0;
+  virtual void hide() = 0;
+};
+
+/// Shows the progress box and keeps a grid from redrawing for the length of a scope; an operation
+/// that fails on its way leaves no box standing. Scopes nest: the inner one ends the box's show.
+class LongOperation {
+ public:
+  LongOperation(ProgressBox& box, CellGrid& grid, const std::string& caption, int maximum)
+      : box_(box), grid_(grid) {
+    box_.show(caption, maximum);
+    grid_.set_redraw(false);
+  }
+  ~LongOperation() {
+    grid_.set_redraw(true);
+    box_.hide();
+  }
+  LongOperation(const LongOperation&) = delete;
+  LongOperation& operator=(const LongOperation&) = delete;
+
+  void set_caption(const std::string& caption) { box_.set_caption(caption); }
+  void set_value(int value) { box_.set_value(value); }
+
+ private:
+  ProgressBox& box_;
+  CellGrid& grid_;
+};
+
+}  // namespace lunavox

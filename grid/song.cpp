@@ -1,0 +1,108 @@
+#include "grid/song.h"
+
+#include "grid/note_text.h"
+#include "grid/runtime_error.h"
+#include "grid/runtime_numbers.h"
+
+#include <algorithm>
+
+namespace lunavox {
+
+const std::string& effect_name(int effect) {
+  static const std::array<std::string, kEffectSlots> kNames = {
+      "Effect", "Instrument", "Volume",    "Pan",    "Modulation", "Brightness",
+      "Reverb", "Chorus",     "Variation", "Attack", "Release",    "Pitch"};
+  if (effect < kFirstEffect || effect > kLastEffect) {
+    throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
+  }
+  return kNames[static_cast<std::size_t>(effect)];
+}
+
+int track_of_column(int column) {
+  return (column - 1) / kColumnsPerTrack + 1;
+}
+
+int sub_column_of(int column) {
+  return column % kColumnsPerTrack;
+}
+
+int first_column_of(int track) {
+  return kColumnsPerTrack * (track - 1) + 1;
+}
+
+int effect_column_of(int track) {
+  return kColumnsPerTrack * track;
+}
+
+int effects_column(int track, Setting setting) {
+  return kSettingsPerTrack * (track - 1) + static_cast<int>(setting);
+}
+
+int channel_of_track(int track) {
+  return track == kDrumTrack ? 9 : track - 2;
+}
+
+std::string ShownNote::text() const {
+  return std::string(lunavox::note_name(note_index)) + plain_number(static_cast<long long>(octave));
+}
+
+ShownNote shown_note(std::string_view entry) {
+  const int note = entry.size() > 2 ? static_cast<int>(hex_value(entry.substr(2, 2))) : 0;
+  return {note / 12, note % 12};
+}
+
+Song::Song() : tracks(3, 1), channels(1, 1), effects(kEffectSlots, 1) {
+  resize_stores();
+  write_captions();
+}
+
+void Song::actualtrack() {
+  current_track = track_of_column(tracks.column());
+  current_sub_column = sub_column_of(tracks.column());
+}
+
+void Song::calculnote() {
+  const ShownNote note = shown_note(notes.at(current_track, current_sub_column, tracks.row()));
+  octave = note.octave;
+  note_index = note.note_index;
+  note_name = lunavox::note_name(note_index);
+}
+
+void Song::show_entry(int track, int sub_column, int row) {
+  const std::string& entry = notes.at(track, sub_column, row);
+  const int column = first_column_of(track) + sub_column - 1;
+  if (!is_note(entry)) {
+    tracks.set_text(row, column, entry);
+    return;
+  }
+  tracks.set_text(row, column, shown_note(entry).text());
+  tracks.set_text_colour(row, column, velocity_colour(velocity_of(entry)));
+}
+
+void Song::show_track_entries(int track) {
+  for (int sub_column = 1; sub_column <= kNoteColumns; ++sub_column) {
+    for (int row = 1; row <= last_row(); ++row) show_entry(track, sub_column, row);
+  }
+}
+
+void Song::write_captions() {
+  effects.set_text(0, 0, "Effect");
+  for (int e = kFirstEffect; e <= kLastEffect; ++e) effects.set_text(e, 0, effect_name(e));
+  channels.set_text(0, 0, "Track");
+  tracks.set_text(0, 0, "Note");
+}
+
+void Song::write_entry(int track, int sub_column, int row, const std::string& entry) {
+  notes.at(track, sub_column, row) = entry;
+  if (entry.empty()) return;
+  auto& used = used_columns.at(track);
+  used = std::max(used, static_cast<std::int16_t>(sub_column));
+}
+
+void Song::resize_stores() {
+  notes.resize_keeping(tracks.rows());
+  values.resize_keeping(tracks.rows());
+  key_attributes.resize_keeping(tracks.rows());
+}
+
+}  // namespace lunavox
