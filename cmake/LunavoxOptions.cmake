@@ -8,7 +8,9 @@ target_compile_options(lunavox_options INTERFACE -Wall -Wextra -Wpedantic -Wshad
 if(LUNAVOX_SANITIZE)
   target_compile_options(lunavox_options INTERFACE -fsanitize=${LUNAVOX_SANITIZE}
                                                    -fno-omit-frame-pointer
-                                                   -fno-sanitize-recover=all)
+                                                   -fno-sanitize-recover=all
+                                                   # false alarms in instrumented code
+                                                   -Wno-maybe-uninitialized)
   target_link_options(lunavox_options INTERFACE -fsanitize=${LUNAVOX_SANITIZE})
 endif()
 

@@ -1,0 +1,139 @@
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+// The rules of docs/architecture.md that can be seen in the text of the sources.
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kTop = LUNAVOX_SOURCE_DIR;
+
+/// One line of a source file that a rule is about.
+struct Line {
+  std::string file;  ///< path from the top of the tree, such as "midi/ports/null_device.cpp"
+  int number = 0;
+  std::string text;
+};
+
+/// What each room may include besides itself. A room's Qt part stands in ROOM/ui.
+const std::map<std::string, std::set<std::string>> kMayInclude = {
+    {"grid", {"grid"}},
+    {"midi", {"grid", "midi"}},
+    {"midi/ports", {"grid", "midi", "midi/ports"}},
+    {"midi/ui", {"grid", "midi", "midi/ui", "app/ui"}},
+    {"files", {"grid", "midi", "files"}},
+    {"files/ui", {"grid", "midi", "files", "files/ui", "app/ui"}},
+    {"edit", {"grid", "midi", "edit"}},
+    {"edit/ui", {"grid", "midi", "edit", "edit/ui", "app/ui"}},
+    {"app", {"grid", "midi", "midi/ports", "files", "edit", "app"}},
+    {"app/ui",
+     {"grid", "midi", "midi/ports", "midi/ui", "files", "files/ui", "edit", "edit/ui", "app",
+      "app/ui"}},
+};
+
+std::vector<fs::path> sources(const std::vector<std::string>& folders) {
+  std::vector<fs::path> found;
+  for (const std::string& folder : folders) {
+    if (!fs::exists(kTop / folder)) continue;
+    for (const auto& entry : fs::recursive_directory_iterator(kTop / folder)) {
+      const fs::path extension = entry.path().extension();
+      if (extension == ".cpp" || extension == ".h") found.push_back(entry.path());
+    }
+  }
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+std::vector<Line> lines_matching(const std::vector<std::string>& folders, const std::regex& rule) {
+  std::vector<Line> found;
+  for (const fs::path& path : sources(folders)) {
+    std::ifstream in(path);
+    std::string text;
+    for (int number = 1; std::getline(in, text); ++number) {
+      if (!std::regex_search(text, rule)) continue;
+      found.push_back({path.lexically_relative(kTop).generic_string(), number, text});
+    }
+  }
+  return found;
+}
+
+const std::vector<std::string> kRooms = {"app", "edit", "files", "grid", "midi"};
+
+std::string room_of(const std::string& file) {
+  return fs::path(file).parent_path().generic_string();
+}
+
+bool is_main(const Line& line) {
+  return line.file == "app/main.cpp";
+}
+
+std::string shown(const Line& line) {
+  return line.file + ":" + std::to_string(line.number) + ": " + line.text;
+}
+
+bool may_use_libraries(const std::string& file) {
+  const std::string room = room_of(file);
+  return room.ends_with("/ui") || room == "midi/ports";
+}
+
+TEST(Includes, OnlyUiAndPortsIncludeToolkitAndDeviceLibraries) {
+  const std::regex library(
+      R"(#\s*include\s*[<"](Q[A-Z][A-Za-z]*|Qt[A-Z]\w*/.*|rtmidi/.*|RtMidi\.h|fluidsynth.*|sndfile.*|alsa/.*|jack/.*)[>"])");
+  for (const Line& line : lines_matching(kRooms, library)) {
+    // main() makes the application object: it is where the two worlds meet.
+    EXPECT_TRUE(may_use_libraries(line.file) || is_main(line)) << shown(line);
+  }
+}
+
+TEST(Includes, UiLeavesDevicesAndPortsLeaveTheToolkit) {
+  const std::regex device(R"(#\s*include\s*[<"](rtmidi|RtMidi|fluidsynth|sndfile|alsa/|jack/))");
+  for (const Line& line : lines_matching(kRooms, device)) {
+    EXPECT_EQ(room_of(line.file), "midi/ports") << shown(line);
+  }
+  const std::regex toolkit(R"(#\s*include\s*[<"]Q[A-Za-z/]+[>"])");
+  for (const Line& line : lines_matching({"midi/ports"}, toolkit)) ADD_FAILURE() << shown(line);
+}
+
+TEST(Includes, FollowTheArrowsBetweenTheRooms) {
+  const std::regex own(R"(#\s*include\s*"([a-z_/]+)/[a-z0-9_]+\.h")");
+  for (const Line& line : lines_matching(kRooms, own)) {
+    if (is_main(line)) continue;
+    std::smatch match;
+    std::regex_search(line.text, match, own);
+    const auto allowed = kMayInclude.find(room_of(line.file));
+    ASSERT_NE(allowed, kMayInclude.end()) << "an unknown room: " << shown(line);
+    EXPECT_TRUE(allowed->second.contains(match[1].str())) << shown(line);
+  }
+}
+
+TEST(Includes, NameTheirRoom) {
+  const std::regex relative(R"(#\s*include\s*"(\.\.?/|[^/"]+"))");
+  const std::regex generated(R"re(#\s*include\s*"(\w+\.moc|ui_\w+\.h)")re");
+  for (const Line& line :
+       lines_matching({"app", "edit", "files", "grid", "midi", "tests"}, relative)) {
+    EXPECT_TRUE(std::regex_search(line.text, generated)) << shown(line);
+  }
+}
+
+TEST(Tests, NeverWaitByTheClock) {
+  const std::regex sleep(
+      R"(sleep_for|sleep_until|QThread::m?u?sleep|QTest::qWait\(|QTest::qSleep|\bu?sleep\()");
+  for (const Line& line : lines_matching({"tests"}, sleep)) {
+    if (line.file == "tests/architecture/includes_test.cpp") continue;
+    ADD_FAILURE() << shown(line);
+  }
+}
+
+TEST(Sources, AreFound) {
+  EXPECT_GT(sources(kRooms).size(), 20U);
+}
+
+}  // namespace
