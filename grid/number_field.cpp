@@ -26,7 +26,7 @@ bool NumberField::enter(const std::string& text, Dialogs& dialogs) {
     dialogs.error(message());
     return false;
   }
-  text_ = text;
+  text_ = plain_number(static_cast<long long>(round_half_even(entered)));
   return true;
 }
 

@@ -25,8 +25,9 @@ class NumberField {
   /// "Invalid value (30-300)"
   std::string message() const;
 
-  /// The user's entry. True when it is accepted; otherwise the message has been shown and the text
-  /// box is to show the last valid text again.
+  /// The user's entry. True when it is accepted: the scroll bar takes the nearest whole number, and
+  /// the text box shows what the scroll bar has, so "12,5" never gets into a file. Otherwise the
+  /// message has been shown and the text box is to show the last valid text again.
   bool enter(const std::string& text, Dialogs& dialogs);
   /// Takes a text as it stands in a file: no check and no message.
   void put(const std::string& text) { text_ = text; }

@@ -31,23 +31,20 @@ SongLength::SongLength(Song& song, Flags& flags, Dialogs& dialogs, ProgressBox& 
     : song_(song), flags_(flags), dialogs_(dialogs), progress_(progress) {}
 
 bool SongLength::bpm_change(const std::string& text) {
-  if (!song_.bpm.enter(text, dialogs_)) return false;
-  flags_.modified = true;
+  if (!enter(song_.bpm, text)) return false;
   calcultime();
   return true;
 }
 
 bool SongLength::length_validate(const std::string& text) {
-  if (!song_.length.enter(text, dialogs_)) return false;
-  flags_.modified = true;
+  if (!enter(song_.length, text)) return false;
   lengthchange();
   calcultime();
   return true;
 }
 
 bool SongLength::number_change(const std::string& text) {
-  if (!song_.number.enter(text, dialogs_)) return false;
-  flags_.modified = true;
+  if (!enter(song_.number, text)) return false;
   numberchange();
   calcultime();
   return true;
@@ -59,6 +56,14 @@ bool SongLength::step_change(const std::string& text) {
 
 bool SongLength::strength_change(const std::string& text) {
   return song_.strength.enter(text, dialogs_);
+}
+
+bool SongLength::enter(NumberField& field, const std::string& text) {
+  const std::string before = field.text();
+  if (!field.enter(text, dialogs_)) return false;
+  // Passing through a field and leaving it as it was is not an edit.
+  if (field.text() != before) flags_.modified = true;
+  return true;
 }
 
 void SongLength::lengthchange() {

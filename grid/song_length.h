@@ -45,6 +45,8 @@ class SongLength {
   Property<std::string> timemin;
 
  private:
+  /// Enters a text into a field that belongs to the song.
+  bool enter(NumberField& field, const std::string& text);
   void continue_curves(int old_row_count);
 
   Song& song_;
