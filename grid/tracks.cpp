@@ -51,6 +51,7 @@ void Tracks::addinstrutrack() {
     dialogs_.error("You can't add more intrument tracks", "Error");
     return;
   }
+  flags_.modified = true;
   add_track("adding instrument track...", kInstrumentHeader, kInstrumentVoice);
   song_.bank.at(song_.track_count) = 0;
   if (hooks_.showeffect) hooks_.showeffect();
@@ -63,10 +64,11 @@ void Tracks::menudeltrack_click() {
     return;
   }
   flags_.modified = true;
-  song_.track_count -= 1;
-  const LongOperation operation(progress_, song_.tracks, "deleting track...", 1);
-  // The cursor leaves first: the column that it may stand on is about to go.
+  // The cursor leaves while the track is still whole: a value typed into it is committed then.
   song_.tracks.set_column(1);
+  song_.actualtrack();
+  const LongOperation operation(progress_, song_.tracks, "deleting track...", 1);
+  song_.track_count -= 1;
   set_track_columns(song_, song_.track_count);
   screen_.fit(song_.track_count);
 }
@@ -77,12 +79,14 @@ void Tracks::append_instrument_columns() {
 
 void Tracks::add_track(const std::string& caption, const std::string& header,
                        const std::string& voice) {
-  LongOperation operation(progress_, song_.tracks, caption, song_.track_count + 1);
-  append_columns(header, voice);
-  start_curves(song_.track_count);
-  // A track that was deleted under this number may have left notes, which sound again: show them.
-  song_.show_track_entries(song_.track_count);
-  operation.set_value(song_.track_count);
+  {
+    LongOperation operation(progress_, song_.tracks, caption, song_.track_count + 1);
+    append_columns(header, voice);
+    start_curves(song_.track_count);
+    // A track that was deleted under this number may have left notes, which sound again: show them.
+    song_.show_track_entries(song_.track_count);
+    operation.set_value(song_.track_count);
+  }
   // What follows the creation works on the current track, which is the new one.
   song_.tracks.set_column(effect_column_of(song_.track_count));
   song_.actualtrack();
