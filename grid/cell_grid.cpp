@@ -48,6 +48,12 @@ CellGrid& CellGrid::operator=(const CellGrid& other) {
   return *this;
 }
 
+bool CellGrid::operator==(const CellGrid& other) const {
+  return rows_ == other.rows_ && columns_ == other.columns_ && cursor_ == other.cursor_ &&
+         selection_end_ == other.selection_end_ && top_row_ == other.top_row_ &&
+         left_column_ == other.left_column_;
+}
+
 void CellGrid::set_rows(int rows) {
   if (rows < 1) throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
   if (rows == rows_) return;
@@ -204,8 +210,11 @@ void CellGrid::clamp_positions() {
   cursor_ = inside(cursor_);
   if (end != selection_end_) selection_gathered_ = true;
   selection_end_ = end;
-  top_row_ = std::clamp(top_row_, std::min(1, rows_ - 1), rows_ - 1);
-  left_column_ = std::clamp(left_column_, std::min(1, columns() - 1), columns() - 1);
+  const int top = std::clamp(top_row_, std::min(1, rows_ - 1), rows_ - 1);
+  const int left = std::clamp(left_column_, std::min(1, columns() - 1), columns() - 1);
+  if (top != top_row_ || left != left_column_) scroll_gathered_ = true;
+  top_row_ = top;
+  left_column_ = left;
   // No leaving_cell here: the cell that the cursor stood on is gone.
   if (from != cursor_) tell([&](CellGridObserver& o) { o.cursor_moved(from); });
 }

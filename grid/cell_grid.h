@@ -73,6 +73,10 @@ class CellGrid {
   CellGrid(const CellGrid& other);
   /// Takes the contents; keeps its own observers and tells them.
   CellGrid& operator=(const CellGrid& other);
+  ~CellGrid() = default;
+
+  /// Equal in all that a copy carries.
+  bool operator==(const CellGrid& other) const;
 
   int rows() const { return rows_; }
   int columns() const { return static_cast<int>(columns_.size()); }
@@ -125,6 +129,8 @@ class CellGrid {
   struct Column {
     int width = 960;
     std::vector<Cell> cells;
+
+    bool operator==(const Column&) const = default;
   };
 
   Cell& writable(int row, int column);

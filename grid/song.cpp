@@ -100,9 +100,15 @@ void Song::write_entry(int track, int sub_column, int row, const std::string& en
 }
 
 void Song::resize_stores() {
-  notes.resize_keeping(tracks.rows());
-  values.resize_keeping(tracks.rows());
-  key_attributes.resize_keeping(tracks.rows());
+  const auto resize = [this](auto& store) {
+    // The stores reach one row past the last line. What stood there before a shortening is cut like
+    // all that follows, or it would sound again when the song grows back.
+    store.resize_keeping(last_row());
+    store.resize_keeping(tracks.rows());
+  };
+  resize(notes);
+  resize(values);
+  resize(key_attributes);
 }
 
 }  // namespace lunavox

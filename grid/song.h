@@ -143,8 +143,10 @@ class Song {
   /// Writes the fixed texts: "Effect" and the curves' names, "Track" and "Note".
   void write_captions();
 
-  /// Resizes the stores to the row count of `tracks`, keeping contents.
+  /// Resizes the stores to the row count of `tracks`, keeping the contents of the song's lines.
   void resize_stores();
+
+  bool operator==(const Song&) const = default;
 };
 
 }  // namespace lunavox
