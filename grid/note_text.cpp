@@ -13,8 +13,8 @@ namespace {
 constexpr std::array<std::string_view, 12> kNames = {"C  ", "C#",  "D  ", "D#",  "E  ", "F  ",
                                                      "F#",  "G  ", "G#",  "A  ", "A#",  "B  "};
 
-std::uint8_t component(int value) {
-  return static_cast<std::uint8_t>(std::clamp(value, 0, 255));
+std::uint8_t component(std::int64_t value) {
+  return static_cast<std::uint8_t>(std::clamp<std::int64_t>(value, 0, 255));
 }
 
 }  // namespace
@@ -48,7 +48,8 @@ std::string_view note_name(int note_index) {
 }
 
 Colour velocity_colour(int velocity) {
-  const int doubled = 2 * velocity;
+  // Wide enough for the velocity that a damaged file's overlong text gives.
+  const std::int64_t doubled = 2 * static_cast<std::int64_t>(velocity);
   return {component(doubled), component(256 - 2 * std::abs(127 - doubled)),
           component(256 - doubled)};
 }

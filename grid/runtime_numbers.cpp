@@ -4,8 +4,9 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace lunavox {
 namespace {
@@ -20,6 +21,16 @@ int hex_digit(char c) {
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   return -1;
+}
+
+/// A number that is too large or too small for a double: infinity or about zero. Read by a stream
+/// of its own locale: the user's may have a decimal comma.
+double extreme_number(std::string_view text) {
+  std::istringstream stream{std::string(text)};
+  stream.imbue(std::locale::classic());
+  double value = 0;
+  stream >> value;
+  return stream ? value : std::copysign(std::numeric_limits<double>::infinity(), value);
 }
 
 }  // namespace
@@ -48,10 +59,7 @@ double leading_number(std::string_view text) {
   if (first >= text.size() || !(is_digit(text[first]) || text[first] == '.')) return 0;
   double value = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  // Too large or too small for a double: strtod tells infinity from zero.
-  if (result.ec == std::errc::result_out_of_range) {
-    return std::strtod(std::string(text).c_str(), nullptr);
-  }
+  if (result.ec == std::errc::result_out_of_range) return extreme_number(text);
   return result.ec == std::errc{} ? value : 0;
 }
 
