@@ -1,0 +1,36 @@
+#pragma once
+
+#include "midi/devices.h"
+#include "midi/note_queue.h"
+
+#include <memory>
+#include <string>
+
+namespace lunavox {
+
+/// The MIDI input: what its device receives goes into the note queue, on the device's own thread.
+class InputPort {
+ public:
+  InputPort(InputDevices& devices, NoteQueue& queue);
+
+  /// Opens a device in place of the one that is open; nothing arrives before start().
+  /// @return false when no device results; nothing is open then
+  bool open(int device);
+  bool is_open() const { return device_ != nullptr; }
+  void close();
+
+  // Nothing happens where no device is open.
+  void start();
+  void stop();
+  void reset();
+
+  /// One sentence when the open device has gone away, else empty.
+  std::string status() const;
+
+ private:
+  InputDevices& devices_;
+  NoteQueue& queue_;
+  std::unique_ptr<InputDevice> device_;
+};
+
+}  // namespace lunavox
