@@ -3,6 +3,7 @@
 #include "grid/runtime_numbers.h"
 #include "midi/short_message.h"
 
+#include <algorithm>
 #include <array>
 
 namespace lunavox {
@@ -91,17 +92,29 @@ void OutputPort::reset_device() {
   if (device_) device_->reset();
 }
 
-std::string& OutputPort::pending_note_off(int track, int column) {
+const std::string& OutputPort::pending_note_off(int track, int column) const {
   return pending_.at(track).at(static_cast<std::size_t>(column));
+}
+
+void OutputPort::keep_note_off(int track, int column, std::string_view note_text) {
+  const std::size_t tail = std::min<std::size_t>(4, note_text.size());
+  if (tail == 0) return clear_note_off(track, column);
+  std::string& pending = pending_.at(track).at(static_cast<std::size_t>(column));
+  pending = note_text.substr(note_text.size() - tail, 2);
+  pending += '9';
+  pending += note_text.back();
+}
+
+void OutputPort::clear_note_off(int track, int column) {
+  pending_.at(track).at(static_cast<std::size_t>(column)).clear();
 }
 
 void OutputPort::send_pending_note_offs(bool clear) {
   for (int track = 0; track < kPendingTracks; ++track) {
     for (int column = 1; column <= kNoteColumns; ++column) {
       // Where nothing sounds the entry is empty, and is sent all the same: as the message 0.
-      std::string& pending = pending_note_off(track, column);
-      send_text(pending);
-      if (clear) pending.clear();
+      send_note_off(track, column);
+      if (clear) clear_note_off(track, column);
     }
   }
 }

@@ -50,9 +50,15 @@ class OutputPort {
   /// Silences the device (midiOutReset) if one is open.
   void reset_device();
 
-  /// The text that ends the note sounding in a note column (1..8) of a track; empty when none
-  /// sounds.
-  std::string& pending_note_off(int track, int column);
+  // The pending note-offs: for each note column (1..8) of a track the text of the message that ends
+  // the note sounding there, empty when none sounds.
+  const std::string& pending_note_off(int track, int column) const;
+  /// Sends a pending note-off; the message 0 where it is empty.
+  void send_note_off(int track, int column) { send_text(pending_note_off(track, column)); }
+  /// Takes up the note-off of a note that has begun: the same note at velocity 0.
+  /// @param note_text the text of its note-on
+  void keep_note_off(int track, int column, std::string_view note_text);
+  void clear_note_off(int track, int column);
 
  private:
   void send_pending_note_offs(bool clear);

@@ -1,0 +1,27 @@
+#include "midi/voice_setup.h"
+
+#include "midi/short_message.h"
+
+namespace lunavox {
+namespace {
+
+constexpr int kBankMsb = 0;
+constexpr int kBankLsb = 32;
+constexpr int kDrumBank = 127;
+constexpr std::uint32_t kSilentNote = 0x003090;  // note 48 at velocity 0
+
+void select_voice(const Song& song, int track, OutputPort& port) {
+  const int channel = song.channel.at(track);
+  port.send(control_change(channel, kBankMsb, track == kDrumTrack ? kDrumBank : 0));
+  port.send(control_change(channel, kBankLsb, song.bank.at(track)));
+  port.send(program_change(channel, song.values.at(track, kInstrument, 1)));
+  port.send(kSilentNote | channel_nibble(channel));
+}
+
+}  // namespace
+
+void starteffect(const Song& song, OutputPort& port) {
+  for (int track = 1; track <= song.track_count; ++track) select_voice(song, track, port);
+}
+
+}  // namespace lunavox
