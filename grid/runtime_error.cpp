@@ -7,6 +7,8 @@ const char* message_of(RuntimeError::Number number) {
   switch (number) {
     case RuntimeError::kOverflow:
       return "Overflow";
+    case RuntimeError::kOutOfMemory:
+      return "Out of memory";
     case RuntimeError::kSubscriptOutOfRange:
       return "Subscript out of range";
     case RuntimeError::kDivisionByZero:

@@ -11,6 +11,7 @@ class RuntimeError : public std::runtime_error {
  public:
   enum Number {
     kOverflow = 6,
+    kOutOfMemory = 7,
     kSubscriptOutOfRange = 9,
     kDivisionByZero = 11,
     kFileNotFound = 53,

@@ -1,0 +1,133 @@
+#include "files/song_file.h"
+
+#include "files/file_bytes.h"
+#include "files/song_reader.h"
+#include "files/song_writer.h"
+#include "grid/runtime_error.h"
+#include "grid/runtime_numbers.h"
+
+namespace lunavox {
+namespace {
+
+constexpr double kNewestVersion = 2.0;
+constexpr double kOldestVersion = 1.1;
+
+// Steps of the progress bar while a song is saved or opened.
+constexpr int kSteps = 8;
+
+}  // namespace
+
+SongFile::SongFile(Song& song, Flags& flags, Tracks& tracks, SongLength& length, Dialogs& dialogs,
+                   ProgressBox& progress)
+    : song_(song),
+      flags_(flags),
+      tracks_(tracks),
+      length_(length),
+      dialogs_(dialogs),
+      progress_(progress) {}
+
+void SongFile::procsave() {
+  {
+    LongOperation operation(progress_, song_.tracks, "saving...", kSteps);
+    AtomicFile file(current_name.get(), save_observer_);
+    file.write(song_text(song_, TextGuard::kNone, [&](int step) { operation.set_value(step); }));
+    file.commit();
+    shared_index_ = song_.track_count + 1;
+  }
+  flags_.modified = false;
+}
+
+void SongFile::procopen() {
+  const std::string bytes = read_file(current_name.get());
+  FieldReader fields(bytes);
+  const Song before = song_;
+  try {
+    open(fields);
+  } catch (const RuntimeError& error) {
+    song_ = before;
+    length_.calcultime();
+    flags_.song_loading = false;
+    throw RuntimeError(error.number(), current_name.get());
+  }
+  put_cursor_home();
+  flags_.modified = false;
+}
+
+void SongFile::open(FieldReader& fields) {
+  const double version = fields.number();
+  if (version > kNewestVersion) {
+    dialogs_.message({"This file has been created with Lunavox " +
+                          plain_number(static_cast<long long>(shared_index_)) +
+                          " Please download a more recent version of Lunavox at " +
+                          kDownloadAddress,
+                      "", Icon::kNone, Buttons::kOk});
+  } else if (version < kOldestVersion) {
+    dialogs_.message(
+        {"Sorry incompatibility with Lunavox 1.0 alpha files !", "", Icon::kNone, Buttons::kOk});
+  } else {
+    read_song(fields, version);
+  }
+}
+
+void SongFile::read_song(FieldReader& fields, double version) {
+  flags_.song_loading = true;
+  const int track_count = fields.short_integer();
+  song_.tracks.set_rows(3);
+  add_missing_tracks(track_count);
+  set_track_columns(song_, song_.track_count);
+  read_groups(fields, version);
+  song_.tracks.set_column(1);
+  length_.numero();
+  length_.numberchange();
+  length_.calcultime();
+  show_effects();
+  if (starteffect_) starteffect_();
+  flags_.song_loading = false;
+}
+
+void SongFile::add_missing_tracks(int track_count) {
+  // The tables for tracks would refuse the seventeenth; a file that wants more is refused before
+  // the grids have grown for nothing.
+  if (track_count >= kTrackSlots) throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
+  if (track_count <= song_.track_count) return;
+  LongOperation operation(progress_, song_.tracks, "adding instrument track...", track_count);
+  while (song_.track_count < track_count) {
+    tracks_.append_instrument_columns();
+    operation.set_value(song_.track_count);
+  }
+}
+
+void SongFile::read_groups(FieldReader& fields, double version) {
+  LongOperation operation(progress_, song_.tracks, "opening...", kSteps);
+  SongReader reader(song_, fields, version);
+  reader.read_row_count();
+  reader.read_number_fields();
+  reader.read_bookmarks();
+  reader.read_banks();
+  operation.set_value(2);
+  reader.read_effects_grid();
+  operation.set_value(3);
+  reader.read_used_columns();
+  reader.read_notes();
+  operation.set_value(5);
+  reader.read_channels();
+  reader.read_curves();
+  operation.set_value(7);
+  reader.read_shown_effects();
+  reader.read_xg_lists();
+}
+
+void SongFile::show_effects() {
+  LongOperation operation(progress_, song_.tracks, "showing effect... track", song_.track_count);
+  for (shared_index_ = 1; shared_index_ <= song_.track_count; ++shared_index_) {
+    operation.set_caption("showing effect... track " + print_number(shared_index_));
+    operation.set_value(shared_index_);
+    show_effect_column(song_, shared_index_);
+  }
+}
+
+void SongFile::put_cursor_home() {
+  song_.tracks.set_cursor(1, 1);
+}
+
+}  // namespace lunavox
