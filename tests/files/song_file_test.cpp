@@ -1,7 +1,7 @@
 #include "files/song_file.h"
 
 #include "grid/runtime_error.h"
-#include "song_bench.h"
+#include "tests/support/song_bench.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
