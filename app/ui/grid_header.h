@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/ui/cell_grid_model.h"
+
+#include <QHeaderView>
+
+namespace lunavox {
+
+/// A header of a grid view: the fixed row or the fixed column of its grid, painted in the grid's
+/// colours.
+class GridHeader : public QHeaderView {
+ public:
+  /// @param columns_per_track  after so many columns a track ends
+  GridHeader(const CellGridModel& model, Qt::Orientation orientation, int columns_per_track,
+             QWidget* parent);
+
+  /// Marks the section of a grid row (vertical header) as the cursor's; 0 for none.
+  void set_marked_row(int row);
+  void set_text_pixels(int pixels) { text_pixels_ = pixels; }
+  /// Repaints one section.
+  void update_section(int section);
+
+ protected:
+  void paintSection(QPainter* painter, const QRect& rect, int section) const override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  const Cell& cell_of(int section) const;
+
+  const CellGridModel& model_;
+  int columns_per_track_;
+  int marked_row_ = 0;
+  int text_pixels_ = 11;
+};
+
+/// Paints a fixed cell of a grid: a header's section or the corner.
+void paint_fixed_cell(QPainter& painter, const QRect& rect, const Cell& cell, int text_pixels,
+                      bool marked, bool track_end);
+
+}  // namespace lunavox

@@ -1,0 +1,14 @@
+#include "app/ui/widgets/theme.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+// Window tests run on the display they are given, else without one.
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  lunavox::theme::apply(application);
+  return RUN_ALL_TESTS();
+}
