@@ -25,6 +25,9 @@ class AudioFile {
 
  private:
   struct Handle;
+
+  [[noreturn]] void fail() const;
+
   std::filesystem::path path_;
   std::unique_ptr<Handle> handle_;
 };

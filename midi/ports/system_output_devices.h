@@ -25,6 +25,8 @@ class SystemOutputDevices : public OutputDevices {
   bool opening_takes_time(int device);
 
  private:
+  std::unique_ptr<OutputDevice> open_synth();
+
   std::filesystem::path soundfont_;
   std::string open_error_;
 };

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+
+#include <jack/types.h>
+
+namespace lunavox {
+
+/// A connection to the running JACK server that tells whether the server still runs and how far it
+/// has come: RtMidi tells neither, and waits without end for room in the queue of a server that is
+/// gone.
+class JackServer {
+ public:
+  /// Null when no server runs.
+  static std::shared_ptr<JackServer> connect();
+  ~JackServer();
+  JackServer(const JackServer&) = delete;
+  JackServer& operator=(const JackServer&) = delete;
+
+  bool alive() const { return alive_; }
+  /// Process cycles seen since connecting.
+  std::uint64_t cycles() const { return cycles_; }
+
+ private:
+  JackServer() = default;
+
+  jack_client_t* client_ = nullptr;
+  std::atomic<bool> alive_{true};
+  std::atomic<std::uint64_t> cycles_{0};
+};
+
+}  // namespace lunavox

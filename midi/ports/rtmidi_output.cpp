@@ -1,0 +1,88 @@
+#include "midi/ports/rtmidi_output.h"
+
+#include "midi/ports/wire_message.h"
+
+#include <chrono>
+#include <thread>
+
+namespace lunavox {
+namespace {
+
+/// How long a message may wait for room in the service's queue.
+constexpr std::chrono::milliseconds kPatience{200};
+
+}  // namespace
+
+std::unique_ptr<RtMidiOutput> RtMidiOutput::open(MidiService service, const std::string& port) {
+  try {
+    std::unique_ptr<RtMidiOutput> device(new RtMidiOutput(std::move(service), port));
+    return device->open_port() ? std::move(device) : nullptr;
+  } catch (const RtMidiError&) {
+    return nullptr;
+  }
+}
+
+RtMidiOutput::RtMidiOutput(MidiService service, std::string port)
+    : service_(std::move(service)), port_(std::move(port)), out_(service_.api, kOutputClient) {
+  errors_.listen_to(out_);
+}
+
+bool RtMidiOutput::open_port() {
+  if (port_.empty()) {
+    out_.openVirtualPort(kVirtualOutput);
+    return !errors_.failed();
+  }
+  const int number = port_number(out_, port_);
+  if (number < 0) return false;
+  out_.openPort(static_cast<unsigned>(number), "MIDI out");
+  return out_.isPortOpen() && !errors_.failed();
+}
+
+MidiResult RtMidiOutput::short_message(std::uint32_t packed) {
+  const WireMessage message = to_wire(packed);
+  if (message.size == 0) return kMidiOk;
+  return send({message.bytes.data(), message.size});
+}
+
+MidiResult RtMidiOutput::long_message(const SysExBytes& data) {
+  const MidiResult prepared = steps_.check_prepared();
+  return prepared == kMidiOk ? send(data) : prepared;
+}
+
+MidiResult RtMidiOutput::send(std::span<const std::uint8_t> bytes) {
+  if (!service_.alive()) return kPortGone;
+  if (!has_room(bytes.size())) return service_.alive() ? kPortBusy : kPortGone;
+  errors_.clear();
+  try {
+    out_.sendMessage(bytes.data(), bytes.size());
+  } catch (const RtMidiError&) {
+    return kNotSent;
+  }
+  return errors_.any() ? kNotSent : kMidiOk;
+}
+
+bool RtMidiOutput::has_room(std::size_t size) {
+  if (!service_.jack) return true;
+  using Clock = std::chrono::steady_clock;
+  const Clock::time_point end = Clock::now() + kPatience;
+  while (!guard_.admit(size, service_.jack->cycles())) {
+    if (!service_.alive() || Clock::now() >= end) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return true;
+}
+
+void RtMidiOutput::reset() {
+  for (std::uint32_t channel = 0; channel < 16; ++channel) {
+    short_message(0x78B0 | channel);  // all sound off
+    short_message(0x7BB0 | channel);  // all notes off
+  }
+}
+
+std::string RtMidiOutput::status() const {
+  if (!service_.alive()) return "The JACK server has stopped: nothing is heard any more.";
+  if (port_.empty() || port_number(out_, port_) >= 0) return {};
+  return "The MIDI output \"" + port_ + "\" is gone.";
+}
+
+}  // namespace lunavox

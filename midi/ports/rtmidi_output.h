@@ -1,0 +1,45 @@
+#pragma once
+
+#include "midi/ports/jack_queue_guard.h"
+#include "midi/ports/midi_service.h"
+#include "midi/ports/port_result.h"
+
+#include <span>
+
+namespace lunavox {
+
+/// An open output port of the system's MIDI service.
+class RtMidiOutput : public OutputDevice {
+ public:
+  /// Opens a port by its name, or, by an empty name, one of our own for others to connect to.
+  /// @return null when the port cannot be opened
+  static std::unique_ptr<RtMidiOutput> open(MidiService service, const std::string& port);
+
+  MidiResult short_message(std::uint32_t packed) override;
+  MidiResult prepare_header(const SysExBytes& data) override { return steps_.prepare(data); }
+  MidiResult long_message(const SysExBytes& data) override;
+  MidiResult unprepare_header(const SysExBytes&) override { return steps_.unprepare(); }
+  std::string error_text(MidiResult result) const override { return port_result_text(result); }
+  void reset() override;
+  std::string status() const override;
+
+ private:
+  RtMidiOutput(MidiService service, std::string port);
+
+  bool open_port();
+  bool has_room(std::size_t size);
+  MidiResult send(std::span<const std::uint8_t> bytes);
+
+  MidiService service_;
+  std::string port_;  // empty for our own
+  PortErrors errors_;
+  // Asking for the ports' names changes the library's object, not the device.
+  mutable RtMidiOut out_;
+  JackQueueGuard guard_;
+  SysExSteps steps_;
+};
+
+/// Name of the output that others connect to.
+inline constexpr char kVirtualOutput[] = "Lunavox virtual port";
+
+}  // namespace lunavox

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "midi/ports/port_result.h"
+#include "midi/ports/synthesiser.h"
+
+namespace lunavox {
+
+/// The built-in synthesiser as an output, played through the machine's sound service; silent where
+/// there is none.
+class SynthDevice : public OutputDevice {
+ public:
+  enum class Sound {
+    kSoundCard,  ///< heard through the first sound service that works
+    kRendered,   ///< drawn by someone else
+  };
+
+  SynthDevice(std::shared_ptr<Synthesiser> synthesiser, Sound sound);
+  ~SynthDevice() override;
+
+  MidiResult short_message(std::uint32_t packed) override;
+  MidiResult prepare_header(const SysExBytes& data) override { return steps_.prepare(data); }
+  MidiResult long_message(const SysExBytes& data) override;
+  MidiResult unprepare_header(const SysExBytes&) override { return steps_.unprepare(); }
+  std::string error_text(MidiResult result) const override { return port_result_text(result); }
+  void reset() override { synthesiser_->silence(); }
+  std::string status() const override { return status_; }
+
+ private:
+  struct DeleteDriver {
+    void operator()(fluid_audio_driver_t* driver) const;
+  };
+
+  void open_sound_card();
+
+  std::shared_ptr<Synthesiser> synthesiser_;
+  std::unique_ptr<fluid_audio_driver_t, DeleteDriver> driver_;
+  SysExSteps steps_;
+  std::string status_;
+};
+
+/// Name of the built-in synthesiser in the list of outputs.
+inline constexpr char kSynthName[] = "Built-in synthesiser";
+
+}  // namespace lunavox
