@@ -2,6 +2,7 @@
 
 #include "grid/runtime_error.h"
 #include "grid/runtime_numbers.h"
+#include "midi/xg_effects.h"
 
 namespace lunavox {
 namespace {
@@ -11,10 +12,6 @@ namespace {
 constexpr int kFewestRows = 2;
 constexpr int kMostRows = 3001;
 
-// Items of the XG lists.
-constexpr int kReverbItems = 11;
-constexpr int kChorusItems = 11;
-constexpr int kVariationItems = 23;
 constexpr int kNoItem = -1;
 
 // What the curves that old files hold under other meanings are set to.
@@ -25,8 +22,8 @@ Setting setting_of_column(int effects_column) {
   return static_cast<Setting>((effects_column - 1) % kSettingsPerTrack + 1);
 }
 
-int item_or_none(int index, int items) {
-  return index >= 0 && index < items ? index : kNoItem;
+int item_or_none(int index, XgList list) {
+  return index >= 0 && index < static_cast<int>(xg_names(list).size()) ? index : kNoItem;
 }
 
 std::int16_t old_value(int effect, std::int16_t in_file) {
@@ -160,9 +157,9 @@ void SongReader::read_xg_lists() {
     song_.variation = 0;
     return;
   }
-  song_.reverb = item_or_none(fields_.integer(), kReverbItems);
-  song_.chorus = item_or_none(fields_.integer(), kChorusItems);
-  song_.variation = item_or_none(fields_.integer(), kVariationItems);
+  song_.reverb = item_or_none(fields_.integer(), XgList::kReverb);
+  song_.chorus = item_or_none(fields_.integer(), XgList::kChorus);
+  song_.variation = item_or_none(fields_.integer(), XgList::kVariation);
 }
 
 void show_effect_column(Song& song, int track) {
