@@ -14,6 +14,8 @@ struct Message {
   std::string title;  ///< empty: the application's own title
   Icon icon = Icon::kNone;
   Buttons buttons = Buttons::kOk;
+  /// Not empty: a notice that the user may choose not to see again, remembered by this name.
+  std::string notice = {};
 
   bool operator==(const Message&) const = default;
 };
@@ -49,7 +51,7 @@ class Dialogs {
 
   /// The usual way to refuse something: critical icon, OK only.
   void error(const std::string& text, const std::string& title = {}) {
-    message({text, title, Icon::kCritical, Buttons::kOk});
+    message({text, title, Icon::kCritical, Buttons::kOk, {}});
   }
 };
 

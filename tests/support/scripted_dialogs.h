@@ -53,7 +53,7 @@ class ScriptedDialogs : public Dialogs {
 
 /// The message box by which the editor refuses something.
 inline Message error_box(const std::string& text, const std::string& title = {}) {
-  return {text, title, Icon::kCritical, Buttons::kOk};
+  return {text, title, Icon::kCritical, Buttons::kOk, {}};
 }
 
 }  // namespace lunavox::test

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "grid/dialogs.h"
+#include "grid/progress.h"
+#include "midi/count_in_window.h"
+
+#include <ostream>
+#include <string>
+
+namespace lunavox {
+
+/// Stands in for the dialogs in a run without a window: what is told goes to a stream, one line
+/// each, and nobody answers a question.
+class ConsoleDialogs : public Dialogs {
+ public:
+  explicit ConsoleDialogs(std::ostream& errors) : errors_(errors) {}
+
+  Answer message(const Message& message) override;
+  std::string input(const Question&) override { return {}; }
+  std::string open_file(const FileQuestion&) override { return {}; }
+  std::string save_file(const FileQuestion&) override { return {}; }
+
+  /// True once anything has been told: without a window every message is a refusal.
+  bool told() const { return told_; }
+
+ private:
+  std::ostream& errors_;
+  bool told_ = false;
+};
+
+/// Shows no progress: for runs without a window.
+class NoProgress : public ProgressBox {
+ public:
+  void show(const std::string&, int) override {}
+  void set_caption(const std::string&) override {}
+  void set_value(int) override {}
+  void hide() override {}
+};
+
+/// No count-in is ever run without a window.
+class NoCountIn : public CountInWindow {
+ public:
+  void show(const std::string&) override {}
+  void set_caption(const std::string&) override {}
+  void hide() override {}
+};
+
+}  // namespace lunavox

@@ -1,0 +1,50 @@
+#include "app/editor.h"
+
+#include "midi/voice_setup.h"
+
+namespace lunavox {
+
+Editor::Editor(const World& surroundings, const Screen& given_screen)
+    : world(surroundings),
+      screen(given_screen),
+      tracks(song, flags, screen, world.dialogs, world.progress),
+      song_length(song, flags, world.dialogs, world.progress),
+      output(world.outputs, world.dialogs),
+      input(world.inputs, notequeue),
+      outputdev(world.outputs, output, song, world.dialogs),
+      xg_effects(song, flags, output),
+      received(song, flags, world.dialogs, output, notequeue, options),
+      listen(received),
+      stage{song, flags, world.clock, output, current_loop, listen, pictures, options},
+      play_loop(stage),
+      realtime_loop(stage, received, world.count_in),
+      recorder(stage, world.dialogs, realtime_loop),
+      transport(stage, play_loop, realtime_loop),
+      curves(song, flags, world.dialogs, world.progress),
+      cursor_events(song, flags, options.curs),
+      typing_mode(song, flags, world.dialogs, curves),
+      song_file(song, flags, tracks, song_length, world.dialogs, world.progress) {
+  tie();
+}
+
+void Editor::tie() {
+  const auto send_voices = [this] { starteffect(song, output); };
+  tracks.set_hooks({[this] { curves.showeffect(); }, send_voices});
+  song_length.set_addfxs([this](int first_row) { curves.addfxs(first_row); });
+  song_file.set_starteffect(send_voices);
+  outputdev.set_hooks({[this] { input.close(); },
+                       [this] {
+                         if (end_program) end_program(1);
+                       }});
+}
+
+void Editor::close_ports() {
+  current_loop.set(nullptr);
+  input.stop();
+  input.reset();
+  output.reset_device();
+  input.close();
+  output.close();
+}
+
+}  // namespace lunavox

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "edit/curves.h"
+#include "edit/grid_events.h"
+#include "edit/typing_mode.h"
+#include "files/song_file.h"
+#include "grid/flags.h"
+#include "grid/screen.h"
+#include "grid/song.h"
+#include "grid/song_length.h"
+#include "grid/tracks.h"
+#include "midi/button_pictures.h"
+#include "midi/input_loop.h"
+#include "midi/input_port.h"
+#include "midi/note_queue.h"
+#include "midi/output_choice.h"
+#include "midi/output_port.h"
+#include "midi/play_loop.h"
+#include "midi/realtime_record_loop.h"
+#include "midi/record_options.h"
+#include "midi/recorder.h"
+#include "midi/stage.h"
+#include "midi/transport.h"
+#include "midi/xg_effects.h"
+
+namespace lunavox {
+
+/// What lies outside the editor. Everything outlives it.
+struct World {
+  OutputDevices& outputs;
+  InputDevices& inputs;
+  Clock& clock;
+  Dialogs& dialogs;
+  ProgressBox& progress;
+  CountInWindow& count_in;
+};
+
+/// The editor: its parts, each given what it works on and nothing more, and the ties between them
+/// where the end of one part's work lies in a higher room. It has no behaviour of its own; how it
+/// comes to life is StartUp's affair.
+class Editor {
+ public:
+  Editor(const World& surroundings, const Screen& given_screen);
+  Editor(const Editor&) = delete;
+  Editor& operator=(const Editor&) = delete;
+
+  World world;
+
+  // The song and what is being done with it.
+  Song song;
+  Flags flags;
+  Screen screen;
+  RecordOptions options;
+  ButtonPictures pictures;
+
+  // grid
+  Tracks tracks;
+  SongLength song_length;
+
+  // midi
+  NoteQueue notequeue;
+  OutputPort output;
+  InputPort input;
+  OutputChoice outputdev;
+  XgEffects xg_effects;
+  ReceivedNotes received;
+  InputLoop listen;
+  CurrentLoop current_loop;
+  Stage stage;
+  PlayLoop play_loop;
+  RealtimeRecordLoop realtime_loop;
+  Recorder recorder;
+  Transport transport;
+
+  // edit
+  Curves curves;
+  CursorEvents cursor_events;  // before typing_mode: the current track is known first
+  TypingMode typing_mode;
+
+  // files
+  SongFile song_file;
+
+  /// Ends the program with an exit status; set by who runs it.
+  std::function<void(int status)> end_program;
+
+  /// Stops and resets the input, resets the output, closes both: the last thing before the end.
+  void close_ports();
+
+ private:
+  void tie();
+};
+
+}  // namespace lunavox

@@ -1,0 +1,46 @@
+#include "app/command_line.h"
+#include "app/headless.h"
+#include "midi/ports/system_input_devices.h"
+#include "midi/ports/system_output_devices.h"
+
+#include <atomic>
+#include <csignal>
+#include <iostream>
+
+namespace lunavox {
+namespace {
+
+constexpr int kWrongCommandLine = 2;
+
+std::atomic<bool> interrupted{false};
+
+void interrupt(int) {
+  interrupted = true;
+}
+
+int run(const CommandLine& line) {
+  SystemOutputDevices outputs(line.soundfont);
+  SystemInputDevices inputs;
+  std::signal(SIGINT, interrupt);
+  std::signal(SIGTERM, interrupt);
+  return run_headless(line, {outputs, inputs, std::cout, std::cerr, interrupted});
+}
+
+int start(const std::vector<std::string>& arguments) {
+  try {
+    return run(read_command_line(arguments));
+  } catch (const CommandLineError& error) {
+    std::cerr << "lunavox: " << error.what() << "; lunavox --help tells more\n";
+    return kWrongCommandLine;
+  } catch (const std::exception& error) {
+    std::cerr << "lunavox: " << error.what() << '\n';
+    return 1;
+  }
+}
+
+}  // namespace
+}  // namespace lunavox
+
+int main(int argc, char** argv) {
+  return lunavox::start({argv + 1, argv + argc});
+}
