@@ -1,0 +1,111 @@
+#include "midi/ports/logging_output_devices.h"
+
+#include "midi/ports/port_error.h"
+#include "midi/ports/recording_device.h"
+#include "test_files.h"
+
+#include <gtest/gtest.h>
+
+namespace lunavox {
+namespace {
+
+using test::TestFolder;
+
+class MidiLogging : public testing::Test {
+ protected:
+  std::unique_ptr<LoggingOutputDevices> logging() {
+    return std::make_unique<LoggingOutputDevices>(recorder_, file_, [this] { return now_; });
+  }
+  std::string log() const { return test::read_file(file_); }
+
+  TestFolder folder_;
+  std::filesystem::path file_ = folder_.file("midi.log");
+  RecordingDevices recorder_;
+  std::chrono::microseconds now_{5'000'000};
+};
+
+TEST_F(MidiLogging, AShortMessageIsALineOfTimeKindAndEightDigits) {
+  const auto devices = logging();
+  const auto device = devices->open(0);
+  now_ += std::chrono::microseconds(1'234'567);
+  device->short_message(0xFF07B0);
+  now_ += std::chrono::microseconds(5);
+  device->short_message(0);
+  devices->flush();
+  EXPECT_EQ(log(),
+            "1234.567\tshort\t00FF07B0\n"
+            "1234.572\tshort\t00000000\n");
+}
+
+TEST_F(MidiLogging, ASystemExclusiveMessageIsALineOfPairsOnceForItsThreeSteps) {
+  const SysExBytes xg_on = {0xF0, 0x43, 0x10, 0x4C, 0x00, 0x00, 0x7E, 0x00, 0xF7};
+  const auto devices = logging();
+  const auto device = devices->open(0);
+  device->prepare_header(xg_on);
+  device->long_message(xg_on);
+  device->unprepare_header(xg_on);
+  devices->flush();
+  EXPECT_EQ(log(), "0.000\tsysex\tF043104C00007E00F7\n");
+}
+
+TEST_F(MidiLogging, NothingIsLostAtTheEndAndTheOrderIsKept) {
+  std::string expected;
+  {
+    const auto devices = logging();
+    const auto device = devices->open(0);
+    for (std::uint32_t i = 0; i < 20000; ++i) {
+      device->short_message(0x100000 + i);
+      std::array<char, 32> line{};
+      std::snprintf(line.data(), line.size(), "0.000\tshort\t%08X\n", 0x100000 + i);
+      expected += line.data();
+    }
+  }
+  EXPECT_EQ(log(), expected);
+}
+
+TEST_F(MidiLogging, ADeviceMayOutliveTheListItCameFrom) {
+  auto devices = logging();
+  auto device = devices->open(0);
+  devices.reset();
+  device->short_message(0x643C90);
+  device.reset();
+  EXPECT_EQ(log(), "0.000\tshort\t00643C90\n");
+}
+
+TEST_F(MidiLogging, EverythingGoesOnToTheDeviceWhichAnswers) {
+  recorder_.record().unprepare_result = 65;
+  recorder_.record().status = "The device is silent.";
+  const auto devices = logging();
+  EXPECT_EQ(devices->names(), std::vector<std::string>{"Recorder"});
+  {
+    const auto device = devices->open(kDefaultOutput);
+    device->short_message(0x643C90);
+    EXPECT_EQ(device->unprepare_header({0xF0, 0xF7}), 65u);
+    EXPECT_EQ(device->error_text(65), "The device is busy.");
+    EXPECT_EQ(device->status(), "The device is silent.");
+    device->reset();
+  }
+  std::vector<RecordedCall::Kind> kinds;
+  for (const RecordedCall& call : recorder_.record().calls) kinds.push_back(call.kind);
+  EXPECT_EQ(kinds, (std::vector{RecordedCall::kOpen, RecordedCall::kShort, RecordedCall::kUnprepare,
+                                RecordedCall::kReset, RecordedCall::kClose}));
+}
+
+TEST_F(MidiLogging, ADeviceThatCannotBeOpenedIsToldAsWithoutTheLog) {
+  const auto devices = logging();
+  EXPECT_EQ(devices->open(7), nullptr);
+  EXPECT_EQ(devices->open_error(), "There is no MIDI output number 7.");
+}
+
+TEST_F(MidiLogging, ALogThatCannotBeWrittenIsTold) {
+  file_ = "/no/such/folder/midi.log";
+  try {
+    logging();
+    FAIL();
+  } catch (const PortError& error) {
+    EXPECT_STREQ(error.what(), "The MIDI log \"/no/such/folder/midi.log\" cannot be written.");
+  }
+}
+
+}  // namespace
+}  // namespace lunavox
