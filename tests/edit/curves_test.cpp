@@ -1,5 +1,6 @@
 #include "edit/curves.h"
 
+#include "tests/support/recording_grid_observer.h"
 #include "tests/support/song_fixture.h"
 
 #include <gmock/gmock.h>
@@ -245,22 +246,13 @@ TEST_F(CurvesTest, EachWalkShowsItsProgressAndRedrawsOnce) {
   EXPECT_TRUE(song.tracks.redraw());
 }
 
-struct CountingObserver : CellGridObserver {
-  void cells_changed(const CellRegion& region) override { regions.push_back(region); }
-  void leaving_cell() override { ++left; }
-  std::vector<CellRegion> regions;
-  int left = 0;
-};
-
 TEST_F(CurvesTest, ALongCurveIsReportedAsOneRegionAndTwoCursorMoves) {
   resize(3000);
   song.tracks.set_cursor(7, 1);
-  CountingObserver observer;
-  song.tracks.add_observer(&observer);
+  const RecordingGridObserver observer(song.tracks);
   curves.showeffect();
-  song.tracks.remove_observer(&observer);
   EXPECT_THAT(observer.regions, ElementsAre(CellRegion{1, 9, 3000, 9}));
-  EXPECT_EQ(observer.left, 2);
+  EXPECT_EQ(observer.left.size(), 2U);
 }
 
 TEST_F(CurvesTest, RefreshingLeavesTextColoursAlone) {
