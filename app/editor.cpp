@@ -23,15 +23,26 @@ Editor::Editor(const World& surroundings, const Screen& given_screen)
       curves(song, flags, world.dialogs, world.progress),
       cursor_events(song, flags, options.curs),
       typing_mode(song, flags, world.dialogs, curves),
-      song_file(song, flags, tracks, song_length, world.dialogs, world.progress) {
+      note_keys(song, flags, notequeue),
+      clipboard(song, flags, world.dialogs),
+      block_tools(song, flags, world.dialogs),
+      bookmarks(song, flags, world.dialogs, pictures),
+      song_file(song, flags, tracks, song_length, world.dialogs, world.progress),
+      voice_name(song, voices, kits),
+      voice_choice({song, flags, output, world.dialogs, voice_name.text}, voices),
+      drum_choice({song, flags, output, world.dialogs, voice_name.text}, kits) {
   tie();
 }
 
 void Editor::tie() {
-  const auto send_voices = [this] { starteffect(song, output); };
+  const auto send_voices = [this] {
+    starteffect(song, output);
+    voice_name.refresh();
+  };
   tracks.set_hooks({[this] { curves.showeffect(); }, send_voices});
   song_length.set_addfxs([this](int first_row) { curves.addfxs(first_row); });
   song_file.set_starteffect(send_voices);
+  note_keys.set_space_bar([this] { recorder.space_bar(); });
   outputdev.set_hooks({[this] { input.close(); },
                        [this] {
                          if (end_program) end_program(1);

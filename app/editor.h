@@ -1,9 +1,16 @@
 #pragma once
 
+#include "app/voice_name_field.h"
+#include "edit/block_tools.h"
+#include "edit/bookmarks.h"
+#include "edit/clipboard.h"
 #include "edit/curves.h"
 #include "edit/grid_events.h"
+#include "edit/note_keys.h"
 #include "edit/typing_mode.h"
 #include "files/song_file.h"
+#include "files/voice_banks.h"
+#include "files/voice_choice.h"
 #include "grid/flags.h"
 #include "grid/screen.h"
 #include "grid/song.h"
@@ -76,9 +83,18 @@ class Editor {
   Curves curves;
   CursorEvents cursor_events;  // before typing_mode: the current track is known first
   TypingMode typing_mode;
+  NoteKeys note_keys;
+  Clipboard clipboard;
+  BlockTools block_tools;
+  Bookmarks bookmarks;
 
   // files
   SongFile song_file;
+  VoiceBanks voices;  ///< empty until they are read from their files
+  DrumKits kits;
+  VoiceNameField voice_name;
+  VoiceChoice voice_choice;
+  DrumChoice drum_choice;
 
   /// Ends the program with an exit status; set by who runs it.
   std::function<void(int status)> end_program;
