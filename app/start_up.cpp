@@ -98,16 +98,16 @@ bool StartUp::open_input() {
 
 bool StartUp::open_output() {
   editor_.outputdev.fill();
-  int item = 1;  // device 0, unless the command line wishes another
+  int device = 0;
   if (wishes_.output) {
-    const auto device = select_device(editor_.world.outputs.names(), *wishes_.output);
-    if (device) {
-      item = *device + 1;
+    const auto wished = select_device(editor_.world.outputs.names(), *wishes_.output);
+    if (wished) {
+      device = *wished;
     } else {
       tell_missing("output", *wishes_.output);
     }
   }
-  return editor_.outputdev.click(item);
+  return editor_.outputdev.choose_device(device);
 }
 
 void StartUp::end_program() {

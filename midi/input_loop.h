@@ -6,7 +6,8 @@
 namespace lunavox {
 
 /// The idle loop `listen`: whatever arrives sounds, and is recorded step by step while the record
-/// button is engaged. Runs when no other loop does.
+/// button is engaged. Runs when no other loop does; what waited for the end of another loop is
+/// handled in its first pass.
 class InputLoop : public Loop {
  public:
   explicit InputLoop(ReceivedNotes& received) : received_(received) {}

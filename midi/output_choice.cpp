@@ -45,10 +45,18 @@ void OutputChoice::fill() {
 
 bool OutputChoice::click(int index) {
   if (index < 0 || index >= kItems) throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
+  return choose(index, device_of(index));
+}
+
+bool OutputChoice::choose_device(int device) {
+  return choose(device + 1, device);
+}
+
+bool OutputChoice::choose(int index, int device) {
   check_item(index);
   // What sounds on the device that is left would never be ended.
   port_.reset_device();
-  if (!port_.open(device_of(index))) {
+  if (!port_.open(device)) {
     dialogs_.error("No Midi output device found", "Error");
     if (hooks_.close_input) hooks_.close_input();
     if (hooks_.end_program) hooks_.end_program();

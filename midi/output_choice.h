@@ -46,8 +46,12 @@ class OutputChoice {
   /// effect, and the three XG lists at their first entries, the module's defaults.
   /// @return false when no device resulted: the user has been told and the program is ending
   bool click(int index);
+  /// As click, for a device by its number in the machine's list at this time, or kDefaultOutput; it
+  /// need not be among the fifteen of the menu.
+  bool choose_device(int device);
 
  private:
+  bool choose(int index, int device);
   int device_of(int index) const;
   void check_item(int index);
   void set_up_module();

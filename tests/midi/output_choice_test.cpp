@@ -144,6 +144,19 @@ TEST_F(OutputChoiceTest, FillingAgainKeepsTheCheckOnTheSameDevice) {
   EXPECT_EQ(checked(), std::vector<int>{});
 }
 
+TEST_F(OutputChoiceTest, ADeviceIsAlsoChosenByItsNumberEvenIfTheMenuHasNoItemForIt) {
+  studio.output.device_names = std::vector<std::string>(20, "Port");
+  choice.fill();
+  EXPECT_TRUE(choice.choose_device(1));
+  EXPECT_EQ(opened(), 1);
+  EXPECT_EQ(checked(), std::vector<int>{2});
+  EXPECT_TRUE(choice.choose_device(17));
+  EXPECT_EQ(opened(), 17);
+  EXPECT_EQ(checked(), std::vector<int>{});
+  EXPECT_TRUE(choice.choose_device(kDefaultOutput));
+  EXPECT_EQ(checked(), std::vector<int>{0});
+}
+
 TEST_F(OutputChoiceTest, ThereIsNoItem16) {
   EXPECT_THROW(choice.click(16), RuntimeError);
   EXPECT_THROW(choice.click(-1), RuntimeError);
