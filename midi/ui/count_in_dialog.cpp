@@ -1,0 +1,58 @@
+#include "midi/ui/count_in_dialog.h"
+
+#include "app/ui/widgets/theme.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace lunavox {
+
+CountInDialog::CountInDialog(QWidget* parent)
+    : QDialog(parent), recordstartin_(new QLabel(QStringLiteral("Record start in"), this)) {
+  setObjectName(QStringLiteral("Form9"));
+  setWindowTitle(QStringLiteral("Realtime record"));
+  setModal(false);
+  recordstartin_->setObjectName(QStringLiteral("recordstartin"));
+  QFont large = theme::caption_font(9);
+  large.setBold(true);
+  recordstartin_->setFont(large);
+  recordstartin_->setAlignment(Qt::AlignCenter);
+  auto* cancel = new QPushButton(QStringLiteral("CANCEL"), this);
+  cancel->setObjectName(QStringLiteral("Command1"));
+  connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(theme::scaled(28), theme::scaled(22), theme::scaled(28),
+                             theme::scaled(18));
+  column->setSpacing(theme::scaled(18));
+  column->addWidget(recordstartin_);
+  column->addWidget(cancel, 0, Qt::AlignCenter);
+  setFixedSize(theme::scaled(280), theme::scaled(132));
+}
+
+void CountInDialog::set_hooks(std::function<void()> cancel, std::function<void()> hidden) {
+  cancel_ = std::move(cancel);
+  hidden_ = std::move(hidden);
+}
+
+void CountInDialog::show(const std::string& caption) {
+  set_caption(caption);
+  QDialog::show();
+  raise();
+}
+
+void CountInDialog::set_caption(const std::string& caption) {
+  recordstartin_->setText(QString::fromStdString(caption));
+}
+
+void CountInDialog::hide() {
+  QDialog::hide();
+  if (hidden_) hidden_();
+}
+
+void CountInDialog::reject() {
+  if (cancel_) cancel_();
+  if (isVisible()) hide();
+}
+
+}  // namespace lunavox
