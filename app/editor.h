@@ -8,6 +8,7 @@
 #include "edit/grid_events.h"
 #include "edit/note_keys.h"
 #include "edit/typing_mode.h"
+#include "files/midi_export.h"
 #include "files/song_file.h"
 #include "files/voice_banks.h"
 #include "files/voice_choice.h"
@@ -29,6 +30,8 @@
 #include "midi/stage.h"
 #include "midi/transport.h"
 #include "midi/xg_effects.h"
+
+#include <functional>
 
 namespace lunavox {
 
@@ -82,6 +85,9 @@ class Editor {
   // edit
   Curves curves;
   CursorEvents cursor_events;  // before typing_mode: the current track is known first
+  TrackScroll tracks_scroll;
+  TrackScroll effects_scroll;
+  TrackScroll channels_scroll;
   TypingMode typing_mode;
   NoteKeys note_keys;
   Clipboard clipboard;
@@ -90,20 +96,29 @@ class Editor {
 
   // files
   SongFile song_file;
+  MidiExport midi_export;
   VoiceBanks voices;  ///< empty until they are read from their files
   DrumKits kits;
   VoiceNameField voice_name;
   VoiceChoice voice_choice;
   DrumChoice drum_choice;
 
-  /// Ends the program with an exit status; set by who runs it.
-  std::function<void(int status)> end_program;
+  /// What whoever shows the editor does for it.
+  struct Shell {
+    std::function<void(int status)> end_program;  ///< ends the program with an exit status
+    std::function<void()> choose_drum_kit;        ///< opens the drum kit dialog
+    std::function<void()> choose_instrument;      ///< opens the instrument dialog
+    std::function<void()> focus_tracks;           ///< gives the keys to the note grid
+  };
+  Shell shell;
 
   /// Stops and resets the input, resets the output, closes both: the last thing before the end.
   void close_ports();
 
  private:
-  void tie();
+  void tie_song();
+  void tie_devices();
+  void tie_keys();
 };
 
 }  // namespace lunavox

@@ -60,14 +60,32 @@ class HeadlessEditor {
   Editor editor_;
 };
 
+/// Opens the song on a silent output, for runs that only write another file.
+class SilentRun {
+ public:
+  SilentRun(const CommandLine& line, const Headless& world)
+      : headless_(silence_, clock_, world.errors) {
+    headless_.open_output(0);
+    headless_.open_song(line.song);
+  }
+  Editor& editor() { return headless_.editor(); }
+
+ private:
+  ManualClock clock_;
+  NullOutputDevices silence_;
+  HeadlessEditor headless_;
+};
+
 void convert_song(const CommandLine& line, const Headless& world) {
-  ManualClock clock;
-  NullOutputDevices silence;
-  HeadlessEditor headless(silence, clock, world.errors);
-  headless.open_output(0);
-  headless.open_song(line.song);
-  headless.editor().song_file.current_name = line.result_file;
-  headless.editor().song_file.procsave();
+  SilentRun run(line, world);
+  run.editor().song_file.current_name = line.result_file;
+  run.editor().song_file.procsave();
+}
+
+void export_song(const CommandLine& line, const Headless& world) {
+  SilentRun run(line, world);
+  run.editor().midi_export.export_name = line.result_file;
+  run.editor().midi_export.procexport();
 }
 
 bool silent(const std::vector<float>& sound) {
@@ -163,8 +181,9 @@ void run(const CommandLine& line, const Headless& world) {
       world.results << help_text();
       return;
     case Mode::kExport:
+      return export_song(line, world);
     case Mode::kEdit:
-      return;
+      throw RunError("a window is needed to edit");
   }
 }
 

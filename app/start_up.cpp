@@ -111,7 +111,7 @@ bool StartUp::open_output() {
 }
 
 void StartUp::end_program() {
-  if (editor_.end_program) editor_.end_program(1);
+  if (editor_.shell.end_program) editor_.shell.end_program(1);
 }
 
 }  // namespace lunavox

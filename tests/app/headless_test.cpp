@@ -82,6 +82,14 @@ TEST_F(HeadlessRun, ConvertingASongOfThisVersionGivesTheSameFile) {
   EXPECT_EQ(contents(path("out.lvx")), contents(path("in.lvx")));
 }
 
+TEST_F(HeadlessRun, ExportingWritesAStandardMidiFileOfFormatOne) {
+  write_song("in.lvx");
+  EXPECT_EQ(run({"--export", path("out.mid"), path("in.lvx")}), 0) << errors_.str();
+  // Format 1, one track, 8 ticks a quarter note.
+  EXPECT_EQ(contents(path("out.mid")).substr(0, 18),
+            std::string("MThd\0\0\0\6\0\1\0\1\0\10MTrk", 18));
+}
+
 TEST_F(HeadlessRun, AMissingSongIsOneLineAndStatusOne) {
   EXPECT_EQ(run({"--convert", path("out.lvx"), path("none.lvx")}), 1);
   EXPECT_EQ(errors_.str(), "lunavox: File not found: " + path("none.lvx") + "\n");

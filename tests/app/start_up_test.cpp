@@ -224,6 +224,39 @@ TEST(Editor, TheVoiceNameFollowsTheCursorsTrack) {
   EXPECT_EQ(bench.editor.voice_name.text.get(), "kit 0");
 }
 
+TEST(Editor, TheVoiceCellOpensTheDialogOfTheTracksKind) {
+  EditorBench bench;
+  bench.start();
+  std::string opened;
+  bench.editor.shell.choose_drum_kit = [&] { opened += "kit "; };
+  bench.editor.shell.choose_instrument = [&] { opened += "voice "; };
+  bench.editor.tracks.addinstrutrack();
+  bench.editor.curves.effects_click(2, 1);
+  bench.editor.curves.effects_click(5, 1);
+  EXPECT_EQ(opened, "kit voice ");
+  EXPECT_EQ(bench.editor.song.tracks.column(), 10);
+}
+
+TEST(Editor, ACursorThatEntersAnEffectCellEndsTheNotesThatKeysHold) {
+  EditorBench bench;
+  bench.start();
+  bench.editor.note_keys.keystart(81);  // Q
+  bench.editor.song.tracks.set_column(9);
+  EXPECT_EQ(bench.editor.note_keys.lastkey(), 0);
+}
+
+TEST(Editor, GridsScrollByWholeTracks) {
+  EditorBench bench(Screen(800, 600));
+  bench.start();
+  Editor& editor = bench.editor;
+  for (int i = 0; i < 3; ++i) editor.tracks.addinstrutrack();
+  EXPECT_EQ(editor.screen.defilchan_max.get(), 3);
+  editor.screen.defilchan = 2;
+  EXPECT_EQ(editor.song.tracks.left_column(), 10);
+  EXPECT_EQ(editor.song.effects.left_column(), 4);
+  EXPECT_EQ(editor.song.channels.left_column(), 2);
+}
+
 TEST(Editor, ALongerSongContinuesItsCurvesInStoreAndColumn) {
   EditorBench bench;
   bench.start();

@@ -18,7 +18,7 @@ namespace lunavox::test {
 struct EditorBench {
   explicit EditorBench(const Screen& screen = Screen(1024, 768))
       : editor({output, inputs, clock, dialogs, progress, count_in}, screen) {
-    editor.end_program = [this](int status) { end_status = status; };
+    editor.shell.end_program = [this](int status) { end_status = status; };
     std::string kits;
     for (int kit = 0; kit < 9; ++kit) {
       kits += "kit " + std::to_string(kit) + "," + std::to_string(8 * kit) + "\r\n";
