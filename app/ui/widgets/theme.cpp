@@ -110,13 +110,13 @@ QProgressBar::chunk { background: #ffb454; border-radius: 2px; }
 }  // namespace
 
 QFont cell_font(int pixels) {
-  static const QString family = [] {
+  static const QString kFamily = [] {
     for (const char* wanted : {"JetBrains Mono", "DejaVu Sans Mono"}) {
       if (QFontDatabase::hasFamily(QString::fromLatin1(wanted))) return QString::fromLatin1(wanted);
     }
     return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
   }();
-  QFont font(family);
+  QFont font(kFamily);
   font.setStyleHint(QFont::Monospace);
   font.setWeight(QFont::Medium);
   font.setPixelSize(std::max(pixels, 6));
