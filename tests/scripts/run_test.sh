@@ -13,13 +13,13 @@ with_display() { env -u WAYLAND_DISPLAY DISPLAY=:9 "$tree/scripts/run" "$@" 2>&1
 without_display() { env -u WAYLAND_DISPLAY -u DISPLAY "$tree/scripts/run" "$@" 2>&1; }
 
 expect "a song opens" "lunavox my song.lvx" "$(with_display "my song.lvx")"
-expect "an example opens where no song is named" "lunavox $tree/examples/first.lvx" "$(with_display)"
+expect "an example opens where no song is named" "lunavox $tree/examples/mountain-king.lvx" "$(with_display)"
 expect "a Wayland display is one too" "lunavox a.lvx" \
   "$(env -u DISPLAY WAYLAND_DISPLAY=wayland-0 "$tree/scripts/run" a.lvx 2>&1)"
 expect_within "no display: it says so" "There is no display here" "$(without_display my.lvx)"
 expect_within "and renders" "lunavox --render $tree/build/my.wav dir/my.lvx" \
   "$(without_display dir/my.lvx)"
-expect_within "the example too" "lunavox --render $tree/build/first.wav $tree/examples/first.lvx" \
+expect_within "the example too" "lunavox --render $tree/build/mountain-king.wav $tree/examples/mountain-king.lvx" \
   "$(without_display)"
 expect "options need no display" "lunavox --list-devices" "$(without_display --list-devices)"
 
