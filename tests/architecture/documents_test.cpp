@@ -46,7 +46,8 @@ std::string without_backslashes(std::string text) {
 TEST(Documents, TheManPageAndTheManualHaveTheOptionsOfTheProgram) {
   const std::set<std::string> options = long_options(lunavox::help_text());
   EXPECT_EQ(long_options(without_backslashes(read("packaging/lunavox.1"))), options);
-  EXPECT_EQ(long_options(read("data/readme.htm")), options);
+  const std::string manual = read("data/readme.htm");
+  EXPECT_EQ(long_options(manual.substr(manual.find("<body>"))), options);
 }
 
 TEST(Documents, NameOnlyFilesThatAreThere) {
