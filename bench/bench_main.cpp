@@ -29,11 +29,13 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&count, arguments.data());
   if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
 
-  FullEditor full;
+  QuietEditor quiet;
+  fill_song(quiet.editor);
+  const ScratchFolder folder;
   Figures figures;
-  add_song_file_figures(figures, full);
-  add_edit_figures(figures, full.editor, full.dialogs, ", without the window", [] {});
-  add_loop_figures(figures, full);
+  add_song_file_figures(figures, quiet, folder);
+  add_edit_figures(figures, quiet.editor, quiet.dialogs, ", without the window", [] {});
+  add_loop_figures(figures, quiet);
   const std::vector<Figure> measured = figures.measure(details);
   print_header();
   return print_rows(measured) ? EXIT_SUCCESS : EXIT_FAILURE;

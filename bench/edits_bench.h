@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bench/figures.h"
-#include "bench/full_editor.h"
+#include "bench/quiet_editor.h"
 
 namespace lunavox::bench {
 

@@ -16,7 +16,7 @@ void print_header() {
 bool print_rows(const std::vector<Figure>& figures) {
   bool all = true;
   for (const Figure& figure : figures) {
-    std::printf("%-60s %10.3f %10.3f %10.3f %-3s %s\n", figure.what.c_str(), figure.best,
+    std::printf("%-60s %10.3g %10.3g %10.3g %-3s %s\n", figure.what.c_str(), figure.best,
                 figure.median, figure.limit, figure.unit.c_str(), reached(figure) ? "ok" : "over");
     all = all && reached(figure);
   }

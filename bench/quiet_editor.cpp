@@ -1,4 +1,4 @@
-#include "bench/full_editor.h"
+#include "bench/quiet_editor.h"
 
 #include "app/start_up.h"
 #include "grid/note_text.h"
@@ -42,12 +42,11 @@ void fill_song(Editor& editor, int lines) {
   song.tracks.set_cursor(1, 1);
 }
 
-FullEditor::FullEditor() {
+QuietEditor::QuietEditor() {
   build_first_song(editor);
   editor.flags.song_building = false;
   editor.outputdev.click(1);
   editor.current_loop.set(&editor.listen);
-  fill_song(editor);
 }
 
 }  // namespace lunavox::bench

@@ -26,9 +26,9 @@ class OneAnswer : public Dialogs {
 /// @param lines  2..3000
 void fill_song(Editor& editor, int lines = kMostLines);
 
-/// The editor without a window and without devices, with the largest song.
-struct FullEditor {
-  FullEditor();
+/// The editor with a new song, without a window and without devices.
+struct QuietEditor {
+  QuietEditor();
 
   OneAnswer dialogs;
   NoProgress progress;
