@@ -1,0 +1,126 @@
+"""The built program plays a song through a real JACK server into other programs.
+
+usage: jack_playback_test.py LUNAVOX JACK_RECORDER SONG"""
+
+import os
+import signal
+import sys
+import tempfile
+import unittest
+
+import jack
+
+LUNAVOX = None
+RECORDER = None
+SONG = None
+
+CHANNEL_RESET = ["b{0} 78 00", "b{0} 7b 00", "b{0} 07 7f", "b{0} 0a 40", "b{0} 01 01", "b{0} 4a 40",
+                 "b{0} 5b 28", "b{0} 5d 01", "b{0} 5e 01", "b{0} 49 40", "b{0} 48 40"]
+RESET = [text.format(f"{channel:x}") for channel in range(15) for text in CHANNEL_RESET]
+XG_SET_UP = ["f0 43 10 4c 00 00 7e 00 f7", "f0 43 10 4c 02 01 58 40 f7",
+             "f0 43 10 4c 02 01 59 40 f7", "f0 43 10 4c 02 01 5a 01 f7"]
+
+
+def wire_text(packed):
+    """The bytes of a packed message, as the monitor prints them; none without a status byte."""
+    status = packed & 0xFF
+    if status < 0x80:
+        return None
+    data = [packed >> 8 & 0x7F, packed >> 16 & 0x7F]
+    length = 1 if status & 0xF0 in (0xC0, 0xD0) else 2
+    return " ".join(f"{byte:02x}" for byte in [status] + data[:length])
+
+
+def wire_log(path):
+    """What a MIDI log says was put on the wire."""
+    messages = []
+    with open(path, encoding="ascii") as log:
+        for line in log:
+            _, kind, text = line.rstrip("\n").split("\t")
+            messages.append(wire_text(int(text, 16)) if kind == "short"
+                            else bytes.fromhex(text).hex(" "))
+    return [message for message in messages if message]
+
+
+def is_note(message):
+    return message.startswith("9") and not message.endswith(" 00")
+
+
+def first_note(messages):
+    return next((place for place, message in enumerate(messages) if is_note(message)), None)
+
+
+class JackPlayback(unittest.TestCase):
+    def setUp(self):
+        self.server = jack.JackServer().__enter__()
+        self.addCleanup(self.server.close)
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.log = os.path.join(folder.name, "midi.log")
+
+    def play_to(self, listener):
+        return self.server.run(LUNAVOX, "--output", listener.PORT, "--midi-log", self.log,
+                               "--play", SONG)
+
+    def assert_ended_well(self, player):
+        self.assertEqual(player.wait(), 0, player.errors)
+        self.assertEqual(player.errors, [])
+
+    def test_every_message_of_a_song_arrives_in_order(self):
+        recorder = self.server.recorder(RECORDER)
+        self.assert_ended_well(self.play_to(recorder))
+        sent = wire_log(self.log)
+        received = recorder.wait_for(len(sent))
+        self.assertEqual(received[:len(sent)], sent)
+
+        self.assertEqual(received[:len(RESET)], RESET)
+        self.assertEqual(received[len(RESET):len(RESET) + 4], XG_SET_UP)
+        ends = [place for place in range(len(RESET), len(received))
+                if received[place:place + len(RESET)] == RESET]
+        self.assertEqual(len(ends), 1, "one more reset, when the song is over")
+        self.assertLess(first_note(received), ends[0])
+        self.assertIsNone(first_note(received[ends[0]:]))
+
+    def test_a_program_of_others_receives_the_song(self):
+        monitor = self.server.monitor()
+        self.assert_ended_well(self.play_to(monitor))
+        sent = wire_log(self.log)
+        song = sent[first_note(sent):]
+        song = song[:song.index(RESET[0]) + monitor.MOST]
+
+        def received():
+            messages = monitor.messages()
+            start = first_note(messages)
+            return messages[start:] if start is not None else []
+
+        jack.wait_until(lambda: len(received()) >= len(song), f"{len(song)} messages of the song")
+        self.assertEqual(received()[:len(song)], song)
+        self.assertEqual(monitor.messages()[:monitor.MOST], RESET[:monitor.MOST])
+
+    def test_an_interrupt_ends_the_playing_with_the_reset(self):
+        recorder = self.server.recorder(RECORDER)
+        player = self.play_to(recorder)
+        jack.wait_until(lambda: first_note(recorder.messages()), "note")
+        player.signal(signal.SIGINT)
+        self.assert_ended_well(player)
+        sent = wire_log(self.log)
+        received = recorder.wait_for(len(sent))[:len(sent)]
+        self.assertEqual(received, sent)
+        self.assertEqual(received[-len(RESET):], RESET)
+
+    def test_a_server_that_dies_does_not_take_the_player_with_it(self):
+        recorder = self.server.recorder(RECORDER)
+        player = self.play_to(recorder)
+        jack.wait_until(lambda: first_note(recorder.messages()), "note")
+        self.server.die()
+        player.signal(signal.SIGINT)
+        self.assertIn(player.wait(), (0, 1))
+
+
+if __name__ == "__main__":
+    if jack.missing_tools():
+        print("not installed:", *jack.missing_tools())
+        sys.exit(77)  # skipped
+    LUNAVOX, RECORDER, SONG = sys.argv[1:4]
+    del sys.argv[1:4]
+    unittest.main()
