@@ -1,5 +1,6 @@
 #include "app/command_line.h"
 #include "app/headless.h"
+#include "app/ui/run_window.h"
 #include "midi/ports/system_input_devices.h"
 #include "midi/ports/system_output_devices.h"
 
@@ -21,6 +22,7 @@ void interrupt(int) {
 int run(const CommandLine& line) {
   SystemOutputDevices outputs(line.soundfont);
   SystemInputDevices inputs;
+  if (line.mode == Mode::kEdit) return run_window(line, outputs, inputs);
   std::signal(SIGINT, interrupt);
   std::signal(SIGTERM, interrupt);
   return run_headless(line, {outputs, inputs, std::cout, std::cerr, interrupted});

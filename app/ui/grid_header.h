@@ -14,7 +14,8 @@ class GridHeader : public QHeaderView {
   GridHeader(const CellGridModel& model, Qt::Orientation orientation, int columns_per_track,
              QWidget* parent);
 
-  /// Marks the section of a grid row (vertical header) as the cursor's; 0 for none.
+  static constexpr int kNoRow = -1;
+  /// Marks the section of a grid row (vertical header) as the cursor's; kNoRow for none.
   void set_marked_row(int row);
   void set_text_pixels(int pixels) { text_pixels_ = pixels; }
   /// Repaints one section.
@@ -29,7 +30,7 @@ class GridHeader : public QHeaderView {
 
   const CellGridModel& model_;
   int columns_per_track_;
-  int marked_row_ = 0;
+  int marked_row_ = kNoRow;
   int text_pixels_ = 11;
 };
 

@@ -244,11 +244,16 @@ void GridView::show_cursor_and_selection() {
   }
   shown_cursor_ = cursor;
   shown_selection_ = selection;
-  rows_header_->set_marked_row(cursor.row);
+  rows_header_->set_marked_row(shows_cursor() ? cursor.row : GridHeader::kNoRow);
   const QModelIndex current = model_->index_of(cursor);
   if (current != currentIndex()) {
     selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
   }
+}
+
+void GridView::refresh_cursor() {
+  update_row(shown_cursor_.row);
+  rows_header_->set_marked_row(shows_cursor() ? shown_cursor_.row : GridHeader::kNoRow);
 }
 
 void GridView::update_row(int row) {
@@ -287,11 +292,11 @@ void GridView::paint_cell(QPainter& painter, CellPosition at) {
   const bool one_cell = grid_.selection_end() == grid_.cursor();
   const CellRegion& selection = shown_selection_;
   CellSurroundings around;
-  around.cursor = at == shown_cursor_;
+  around.cursor = shows_cursor() && at == shown_cursor_;
   around.focused = hasFocus();
   around.selected = !one_cell && at.row >= selection.first_row && at.row <= selection.last_row &&
                     at.column >= selection.first_column && at.column <= selection.last_column;
-  around.cursor_line = at.row == shown_cursor_.row;
+  around.cursor_line = shows_cursor() && at.row == shown_cursor_.row;
   around.beat_line = is_beat_line(at.row);
   around.track_end = at.column % columns_per_track_ == 0;
   around.switch_cell = is_switch_column(at.column);
@@ -302,7 +307,7 @@ void GridView::paint_cell(QPainter& painter, CellPosition at) {
 // What the user does.
 
 void GridView::move_to(CellPosition position, bool extend) {
-  if (extend) {
+  if (extend && selects()) {
     grid_.set_selection_end(position.row, position.column);
     bring_into_view(position);
   } else {
@@ -367,7 +372,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
   event->accept();
   if (event->button() != Qt::LeftButton || grid_.columns() < 2) return;
   if (rowAt(event->pos().y()) < 0 || columnAt(event->pos().x()) < 0) return;
-  dragging_ = true;
+  dragging_ = selects();
   move_to(nearest_position(event->pos()), event->modifiers().testFlag(Qt::ShiftModifier));
   cell_pressed();
 }
@@ -407,12 +412,12 @@ void GridView::wheelEvent(QWheelEvent* event) {
 
 void GridView::focusInEvent(QFocusEvent* event) {
   QTableView::focusInEvent(event);
-  update_row(shown_cursor_.row);
+  refresh_cursor();
 }
 
 void GridView::focusOutEvent(QFocusEvent* event) {
   QTableView::focusOutEvent(event);
-  update_row(shown_cursor_.row);
+  refresh_cursor();
 }
 
 }  // namespace lunavox

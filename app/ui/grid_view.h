@@ -63,12 +63,18 @@ class GridView : public QTableView, private CellGridObserver {
 
   /// True where a move of the cursor brings it into view.
   virtual bool follows_cursor() const { return true; }
+  /// False for a grid whose cursor is nobody's affair.
+  virtual bool shows_cursor() const { return true; }
+  /// False where a drag or Shift selects nothing but one cell.
+  virtual bool selects() const { return true; }
   /// True for a line that begins a beat.
   virtual bool is_beat_line(int /*row*/) const { return false; }
   /// True for a column of "yes" and "no".
   virtual bool is_switch_column(int /*column*/) const { return false; }
   /// A cell was pressed with the left button; the cursor stands there.
   virtual void cell_pressed() {}
+  /// The cursor or what it looks like has changed for other reasons than a move.
+  void refresh_cursor();
   /// Moves the cursor by a key; false for a key that does not move it.
   bool navigate(const QKeyEvent& event);
   void bring_into_view(CellPosition position);

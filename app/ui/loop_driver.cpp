@@ -1,0 +1,78 @@
+#include "app/ui/loop_driver.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <algorithm>
+#include <memory>
+
+namespace lunavox {
+namespace {
+
+// Timers come this much late at worst on an idle machine; the rest is waited out on the clock.
+constexpr std::int32_t kSpinMs = 2;
+
+std::int32_t remaining_ms(std::uint32_t now, std::uint32_t due) {
+  return static_cast<std::int32_t>(elapsed_ms(now, due));
+}
+
+}  // namespace
+
+LoopDriver::LoopDriver(CurrentLoop& current, Clock& clock) : current_(current), clock_(clock) {
+  timer_.setTimerType(Qt::PreciseTimer);
+  timer_.setSingleShot(true);
+  connect(&timer_, &QTimer::timeout, this, [this] { run(); });
+  current_.on_change([this] { wake(); });
+}
+
+LoopDriver::~LoopDriver() {
+  current_.on_change({});
+}
+
+void LoopDriver::wake() {
+  if (woken_.exchange(true)) return;
+  QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+}
+
+void LoopDriver::customEvent(QEvent* /*event*/) {
+  woken_ = false;
+  run();
+}
+
+void LoopDriver::run() {
+  // Inside a pass that shows a message box: what has come is dealt with after it.
+  if (in_pass_) {
+    missed_ = true;
+    return;
+  }
+  if (Loop* loop = current_.get()) {
+    if (const auto due = loop->next_due()) wait_until(*due);
+    in_pass_ = true;
+    const auto leave = [this](void*) { in_pass_ = false; };
+    const std::unique_ptr<void, decltype(leave)> guard(this, leave);
+    loop->pass(clock_.timeGetTime());
+  }
+  if (missed_) {
+    missed_ = false;
+    wake();
+  }
+  schedule();
+}
+
+void LoopDriver::wait_until(std::uint32_t due) {
+  if (remaining_ms(clock_.timeGetTime(), due) > kSpinMs) return;
+  while (remaining_ms(clock_.timeGetTime(), due) > 0) {
+  }
+}
+
+void LoopDriver::schedule() {
+  const Loop* loop = current_.get();
+  const auto due = loop != nullptr ? loop->next_due() : std::nullopt;
+  if (!due) {
+    timer_.stop();
+    return;
+  }
+  // An overdue loop goes on after the window events that wait.
+  timer_.start(std::max(remaining_ms(clock_.timeGetTime(), *due) - kSpinMs, 0));
+}
+
+}  // namespace lunavox

@@ -1,0 +1,101 @@
+#include "app/ui/menus.h"
+
+#include "app/ui/widgets/follow.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace lunavox {
+namespace {
+
+QMenu& add_menu(QMenuBar& bar, const char* name, const char* caption) {
+  QMenu* menu = bar.addMenu(QLatin1String(caption));
+  menu->setObjectName(QLatin1String(name));
+  return *menu;
+}
+
+QAction& add(QMenu& menu, const char* name, const char* caption, std::function<void()> command) {
+  QAction* action = menu.addAction(QLatin1String(caption));
+  action->setObjectName(QLatin1String(name));
+  action->setEnabled(command != nullptr);
+  QObject::connect(action, &QAction::triggered, &menu, [command = std::move(command)] {
+    if (command) command();
+  });
+  return *action;
+}
+
+QMenu& build_edit_menu(QMenuBar& bar, const MenuCommands& commands) {
+  QMenu& edit = add_menu(bar, "menuedit", "&Edit");
+  add(edit, "menucut", "Cut", commands.menucut);
+  add(edit, "menucopy", "Copy", commands.menucopy);
+  QAction& paste = add(edit, "menupaste", "Paste", commands.menupaste);
+  edit.addSeparator()->setObjectName(QStringLiteral("trait"));
+  const std::vector<QAction*> tools = {
+      &add(edit, "menuvelval", "Velocity: fixed value", commands.menuvelval),
+      &add(edit, "menuvelper", "Velocity: percent", commands.menuvelper),
+      &add(edit, "menutrans", "Transpose", commands.menutrans),
+  };
+  QObject::connect(&edit, &QMenu::aboutToShow, &edit,
+                   [&paste, tools, can_paste = commands.can_paste,
+                    can_change_notes = commands.can_change_notes] {
+                     paste.setEnabled(can_paste());
+                     for (QAction* tool : tools) tool->setEnabled(can_change_notes());
+                   });
+  return edit;
+}
+
+/// The menu `menuoutput` with its sixteen items; those without a device are hidden.
+void build_output_menu(QMenuBar& bar, const MenuCommands& commands,
+                       Property<std::vector<OutputItem>>& outputs) {
+  QMenu& menu = add_menu(bar, "menuoutput", "&Output device");
+  std::vector<QAction*> items;
+  for (int index = 0; index < OutputChoice::kItems; ++index) {
+    QAction& item = add(menu, "", "", [choose = commands.outputdev, index] { choose(index); });
+    item.setObjectName(QStringLiteral("output%1").arg(index));
+    item.setCheckable(true);
+    items.push_back(&item);
+  }
+  const auto show = [items](const std::vector<OutputItem>& shown) {
+    for (std::size_t i = 0; i < items.size(); ++i) {
+      const bool there = i < shown.size();
+      items[i]->setVisible(there);
+      if (!there) continue;
+      QString caption = QString::fromStdString(shown[i].caption);
+      items[i]->setText(caption.replace(QLatin1Char('&'), QStringLiteral("&&")));
+      items[i]->setChecked(shown[i].checked);
+    }
+  };
+  follow(outputs, &menu, show);
+  // Choosing the checked item again unchecks it on the screen: it stays the chosen one.
+  QObject::connect(&menu, &QMenu::triggered, &menu, [show, &outputs] { show(outputs.get()); });
+  QObject::connect(&menu, &QMenu::aboutToShow, &menu, [list = commands.list_outputs] {
+    if (list) list();
+  });
+}
+
+}  // namespace
+
+QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
+                   Property<std::vector<OutputItem>>& outputs) {
+  QMenu& file = add_menu(bar, "menufile", "&File");
+  add(file, "menunew", "New", commands.menunew);
+  add(file, "menuopen", "Open", commands.menuopen);
+  add(file, "menusave", "Save", commands.menusave);
+  add(file, "menusaveas", "Save as", commands.menusaveas);
+  add(file, "menuexport", "Export as .mid", commands.menuexport);
+  add(file, "menuquit", "Quit", commands.menuquit);
+  QMenu& edit = build_edit_menu(bar, commands);
+  QMenu& input = add_menu(bar, "menuinput", "&Input device");
+  add(input, "menuask", "Ask for input device next launch", commands.menuask);
+  build_output_menu(bar, commands, outputs);
+  QMenu& track = add_menu(bar, "menutrack", "&Track");
+  add(track, "menuaddinstru", "add instrument track", commands.menuaddinstru);
+  add(track, "menudeltrack", "del last track", commands.menudeltrack);
+  QMenu& about = add_menu(bar, "menuabout", "&Help");
+  add(about, "menuhelp", "All you have to know", commands.menuhelp);
+  add(about, "menuauthor", "About Lunavox", commands.menuauthor);
+  return edit;
+}
+
+}  // namespace lunavox

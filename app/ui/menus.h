@@ -1,0 +1,46 @@
+#pragma once
+
+#include "grid/property.h"
+#include "midi/output_choice.h"
+
+#include <functional>
+#include <vector>
+
+class QMenu;
+class QMenuBar;
+
+namespace lunavox {
+
+/// What the menu commands do.
+struct MenuCommands {
+  std::function<void()> menunew;
+  std::function<void()> menuopen;
+  std::function<void()> menusave;
+  std::function<void()> menusaveas;
+  std::function<void()> menuexport;
+  std::function<void()> menuquit;
+  std::function<void()> menucut;
+  std::function<void()> menucopy;
+  std::function<void()> menupaste;
+  std::function<void()> menuvelval;
+  std::function<void()> menuvelper;
+  std::function<void()> menutrans;
+  std::function<void()> menuask;
+  std::function<void(int index)> outputdev;
+  std::function<void()> menuaddinstru;
+  std::function<void()> menudeltrack;
+  std::function<void()> menuhelp;
+  std::function<void()> menuauthor;
+
+  // Whether the block commands have something to work on.
+  std::function<bool()> can_paste;
+  std::function<bool()> can_change_notes;
+  std::function<void()> list_outputs;  ///< lists the machine's outputs afresh
+};
+
+/// Fills the menu bar.
+/// @return the menu `menuedit`, which also opens over the note grid
+QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
+                   Property<std::vector<OutputItem>>& outputs);
+
+}  // namespace lunavox

@@ -1,0 +1,66 @@
+#include "app/ui/panel_strip.h"
+
+#include "app/ui/widgets/theme.h"
+
+#include <algorithm>
+
+namespace lunavox {
+namespace {
+
+constexpr int kGap = 4;
+
+}  // namespace
+
+PanelStrip::PanelStrip(QWidget* parent) : QWidget(parent) {
+  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  policy.setHeightForWidth(true);
+  setSizePolicy(policy);
+}
+
+void PanelStrip::add(QWidget* panel) {
+  panel->setParent(this);
+  panels_.push_back(panel);
+}
+
+int PanelStrip::panel_height() const {
+  int height = 0;
+  for (const QWidget* panel : panels_) height = std::max(height, panel->sizeHint().height());
+  return height;
+}
+
+std::vector<QRect> PanelStrip::places(int width) const {
+  const int gap = theme::scaled(kGap);
+  const int height = panel_height();
+  std::vector<QRect> places;
+  QPoint at(gap, gap);
+  for (const QWidget* panel : panels_) {
+    const int panel_width = panel->sizeHint().width();
+    if (at.x() > gap && at.x() + panel_width + gap > width) at = QPoint(gap, at.y() + height + gap);
+    places.emplace_back(at, QSize(panel_width, height));
+    at.rx() += panel_width + gap;
+  }
+  return places;
+}
+
+int PanelStrip::heightForWidth(int width) const {
+  const std::vector<QRect> all = places(width);
+  return all.empty() ? 0 : all.back().bottom() + 1 + theme::scaled(kGap);
+}
+
+QSize PanelStrip::sizeHint() const {
+  return {theme::scaled(800), heightForWidth(theme::scaled(800))};
+}
+
+QSize PanelStrip::minimumSizeHint() const {
+  int widest = 0;
+  for (const QWidget* panel : panels_) widest = std::max(widest, panel->sizeHint().width());
+  return {widest + 2 * theme::scaled(kGap), panel_height()};
+}
+
+void PanelStrip::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  const std::vector<QRect> all = places(width());
+  for (std::size_t i = 0; i < panels_.size(); ++i) panels_[i]->setGeometry(all[i]);
+}
+
+}  // namespace lunavox

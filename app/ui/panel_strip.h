@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+namespace lunavox {
+
+/// The panels above the grids, side by side in as many rows as the window's width asks for.
+class PanelStrip : public QWidget {
+ public:
+  explicit PanelStrip(QWidget* parent = nullptr);
+
+  void add(QWidget* panel);
+
+  bool hasHeightForWidth() const override { return true; }
+  int heightForWidth(int width) const override;
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  /// Places of the panels in a width, row by row.
+  std::vector<QRect> places(int width) const;
+  int panel_height() const;
+
+  std::vector<QWidget*> panels_;
+};
+
+}  // namespace lunavox

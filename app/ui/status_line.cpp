@@ -1,0 +1,67 @@
+#include "app/ui/status_line.h"
+
+#include "app/ui/widgets/theme.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace lunavox {
+namespace {
+
+struct SectionPlan {
+  const char* name;
+  int stretch;
+  int width;  ///< of sections that do not stretch
+};
+
+constexpr std::array<SectionPlan, StatusLine::kSections> kPlan = {{
+    {"statusfile", 3, 0},
+    {"statusoutput", 5, 0},
+    {"statusline", 0, 158},
+    {"statuscell", 0, 196},
+    {"statusoctave", 0, 62},
+}};
+
+void set_warning(QLabel& label, bool warning) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, warning ? theme::kAccent : theme::kDimText);
+  label.setPalette(palette);
+}
+
+}  // namespace
+
+StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
+  setObjectName(QStringLiteral("status"));
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(theme::scaled(8), 0, theme::scaled(8), 0);
+  row->setSpacing(theme::scaled(12));
+  for (std::size_t i = 0; i < kPlan.size(); ++i) {
+    auto* label = new QLabel(this);
+    label->setObjectName(QLatin1String(kPlan[i].name));
+    label->setFont(theme::caption_font());
+    label->setTextFormat(Qt::PlainText);
+    // The text must not decide on the width, or the sections would shift with it.
+    label->setSizePolicy(kPlan[i].stretch > 0 ? QSizePolicy::Ignored : QSizePolicy::Fixed,
+                         QSizePolicy::Fixed);
+    if (kPlan[i].stretch == 0) label->setFixedWidth(theme::scaled(kPlan[i].width));
+    set_warning(*label, false);
+    row->addWidget(label, kPlan[i].stretch);
+    labels_[i] = label;
+  }
+  setFixedHeight(theme::scaled(21));
+}
+
+void StatusLine::show_text(Section section, const QString& text) {
+  QLabel& label = *labels_[section];
+  if (label.text() == text) return;
+  label.setText(text);
+  label.setToolTip(text);
+  set_warning(label, false);
+}
+
+void StatusLine::show_warning(Section section, const QString& text) {
+  show_text(section, text);
+  set_warning(*labels_[section], true);
+}
+
+}  // namespace lunavox

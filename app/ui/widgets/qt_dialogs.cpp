@@ -1,0 +1,113 @@
+#include "app/ui/widgets/qt_dialogs.h"
+
+#include "app/ui/widgets/theme.h"
+
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
+
+namespace lunavox {
+namespace {
+
+constexpr int kIconSize = 36;
+
+QString shown(const std::string& text) {
+  QString lines = QString::fromStdString(text);
+  return lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+/// A mark in the window's own style, where the toolkit would show its stock picture.
+QPixmap mark(const QColor& colour, QChar sign) {
+  const int size = theme::scaled(kIconSize);
+  QPixmap pixmap(QSize(size, size) * 2);
+  pixmap.setDevicePixelRatio(2);
+  pixmap.fill(Qt::transparent);
+  QPainter painter(&pixmap);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(colour, 2));
+  painter.drawEllipse(QRectF(2, 2, size - 4, size - 4));
+  QFont font = theme::caption_font(8);
+  font.setBold(true);
+  painter.setFont(font);
+  painter.drawText(QRect(0, 0, size, size), Qt::AlignCenter, sign);
+  return pixmap;
+}
+
+Answer answer_of(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return Answer::kYes;
+    case QMessageBox::No:
+      return Answer::kNo;
+    case QMessageBox::Ok:
+      return Answer::kOk;
+    default:
+      return Answer::kCancel;
+  }
+}
+
+}  // namespace
+
+QString file_filter(const std::string& filter) {
+  const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
+  const QString name = parts.first().section(QLatin1Char('('), 0, 0).trimmed();
+  QString patterns = parts.last();
+  return QStringLiteral("%1 (%2)").arg(
+      name, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
+}
+
+QString first_suffix(const std::string& filter) {
+  const QString pattern =
+      QString::fromStdString(filter).section(QLatin1Char('|'), -1).section(QLatin1Char(';'), 0, 0);
+  return pattern.startsWith(QStringLiteral("*.")) ? pattern.mid(2) : QString();
+}
+
+Answer QtDialogs::message(const Message& message) {
+  QMessageBox box(window_);
+  box.setObjectName(QStringLiteral("message"));
+  box.setWindowTitle(message.title.empty() ? QStringLiteral("Lunavox")
+                                           : QString::fromStdString(message.title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(shown(message.text));
+  const bool asks = message.buttons == Buttons::kYesNoCancel;
+  if (message.icon == Icon::kCritical) box.setIconPixmap(mark({0xf0, 0x5a, 0x4a}, u'!'));
+  if (asks) box.setIconPixmap(mark(theme::kAccent, u'?'));
+  box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
+                              : QMessageBox::StandardButtons(QMessageBox::Ok));
+  box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
+  const int button = box.exec();
+  return asks ? answer_of(button) : Answer::kOk;
+}
+
+std::string QtDialogs::input(const Question& question) {
+  QInputDialog box(window_);
+  box.setObjectName(QStringLiteral("input"));
+  box.setWindowTitle(QString::fromStdString(question.title));
+  box.setLabelText(QString::fromStdString(question.prompt));
+  box.setTextValue(QString::fromStdString(question.default_text));
+  if (auto* text = box.findChild<QLineEdit*>()) text->selectAll();
+  return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
+}
+
+std::string QtDialogs::open_file(const FileQuestion& question) {
+  QFileDialog dialog(window_, QString::fromStdString(question.title), {},
+                     file_filter(question.filter));
+  dialog.setObjectName(QStringLiteral("openfile"));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return dialog.selectedFiles().value(0).toStdString();
+}
+
+std::string QtDialogs::save_file(const FileQuestion& question) {
+  QFileDialog dialog(window_, QString::fromStdString(question.title), {},
+                     file_filter(question.filter));
+  dialog.setObjectName(QStringLiteral("savefile"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(first_suffix(question.filter));
+  if (dialog.exec() != QDialog::Accepted) return {};
+  return dialog.selectedFiles().value(0).toStdString();
+}
+
+}  // namespace lunavox

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "grid/dialogs.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace lunavox {
+
+/// Message boxes, input boxes and file dialogs on the screen, in front of a window.
+class QtDialogs : public Dialogs {
+ public:
+  void set_window(QWidget* window) { window_ = window; }
+
+  Answer message(const Message& message) override;
+  std::string input(const Question& question) override;
+  std::string open_file(const FileQuestion& question) override;
+  std::string save_file(const FileQuestion& question) override;
+
+ private:
+  QPointer<QWidget> window_;
+};
+
+/// "name|pattern;pattern" as Qt writes file filters: "name (pattern pattern)".
+QString file_filter(const std::string& filter);
+/// The ending of a filter's first pattern, "lvx" for "*.lvx"; empty where it has none.
+QString first_suffix(const std::string& filter);
+
+}  // namespace lunavox

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "app/start_up.h"
+#include "app/ui/loop_driver.h"
+#include "app/ui/main_window.h"
+#include "app/ui/note_keyboard.h"
+#include "app/ui/widgets/qt_dialogs.h"
+#include "app/ui/widgets/qt_progress_box.h"
+#include "app/ui/widgets/skin_pictures.h"
+#include "files/config.h"
+#include "files/program_folders.h"
+#include "midi/ui/count_in_dialog.h"
+
+#include <memory>
+
+namespace lunavox {
+
+class DrumKitDialog;
+class InstrumentDialog;
+class RecordOptionsDialog;
+
+/// The editor with its window: what stands between the toolkit-free parts and the screen, and the
+/// ties between the two.
+class WindowShell {
+ public:
+  /// What the machine offers. Outlives the shell.
+  struct Machine {
+    OutputDevices& outputs;
+    InputDevices& inputs;
+    Clock& clock;
+    ProgramFolders folders;
+  };
+
+  /// @param dialogs  where the editor asks and tells; null for boxes on the screen
+  WindowShell(const Machine& machine, const StartUp::Wishes& wishes, Dialogs* dialogs = nullptr);
+  ~WindowShell();
+
+  Editor& editor() { return *editor_; }
+  MainWindow& window() { return *window_; }
+
+  /// Shows the window and brings the editor to life.
+  void start();
+  /// The exit status once something has ended the program, else none.
+  std::optional<int> ended() const { return ended_; }
+  /// Ends the program: its event loop returns, or is not entered.
+  void end(int status);
+
+ private:
+  MenuCommands menu_commands();
+  WindowCommands window_commands();
+  void tie();
+  void choose_input(const std::vector<std::string>& names);
+  bool may_close();
+
+  ProgramFolders folders_;
+  QtDialogs screen_dialogs_;
+  Dialogs& dialogs_;
+  QtProgressBox progress_;
+  std::unique_ptr<CountInDialog> count_in_;
+  std::unique_ptr<Editor> editor_;
+  Config config_;
+  StartUp start_up_;
+  NoteKeyboard keyboard_;
+  SkinPictures skin_;
+  LoopDriver driver_;
+  std::unique_ptr<MainWindow> window_;
+  std::unique_ptr<RecordOptionsDialog> record_options_;
+  std::unique_ptr<InstrumentDialog> instrument_;
+  std::unique_ptr<DrumKitDialog> drum_kit_;
+  std::optional<int> ended_;
+};
+
+}  // namespace lunavox
