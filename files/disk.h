@@ -49,6 +49,23 @@ void flush_folder(const std::filesystem::path& folder);
 /// write to read-only files, but the mark still says what the user wants.
 bool is_writable(const std::filesystem::path& file);
 
+/// A lock that one running program at a time holds on a name, until it lets go or ends, however it
+/// ends.
+class Lock {
+ public:
+  /// Takes the lock unless another program, or another Lock of this one, holds it. Creates the file
+  /// that it stands on.
+  explicit Lock(const std::filesystem::path& path);
+  ~Lock();
+  Lock(Lock&& other) noexcept;
+  Lock& operator=(Lock&&) = delete;
+
+  bool held() const { return descriptor_ >= 0; }
+
+ private:
+  int descriptor_ = -1;
+};
+
 /// Number of this running program.
 int process_number();
 

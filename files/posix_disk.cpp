@@ -1,8 +1,10 @@
 #include "files/disk.h"
 
 #include <cerrno>
+#include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -94,6 +96,19 @@ bool is_writable(const std::filesystem::path& file) {
   if (::stat(file.c_str(), &status) != 0 || (status.st_mode & kAnyWrite) == 0) return false;
   return ::access(file.c_str(), W_OK) == 0;
 }
+
+Lock::Lock(const std::filesystem::path& path)
+    : descriptor_(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kNewFileMode)) {
+  if (descriptor_ < 0 || ::flock(descriptor_, LOCK_EX | LOCK_NB) == 0) return;
+  ::close(descriptor_);
+  descriptor_ = -1;
+}
+
+Lock::~Lock() {
+  if (descriptor_ >= 0) ::close(descriptor_);
+}
+
+Lock::Lock(Lock&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
 
 int process_number() {
   return static_cast<int>(::getpid());

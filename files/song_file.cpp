@@ -37,36 +37,49 @@ void SongFile::procsave() {
   flags_.modified = false;
 }
 
-void SongFile::procopen() {
+bool SongFile::procopen() {
   const std::string bytes = read_file(current_name.get());
   FieldReader fields(bytes);
-  const Song before = song_;
   try {
-    open(fields);
+    return read(fields);
   } catch (const RuntimeError& error) {
+    throw RuntimeError(error.number(), current_name.get());
+  }
+}
+
+bool SongFile::read(FieldReader& fields) {
+  const Song before = song_;
+  bool accepted = false;
+  try {
+    const double version = fields.number();
+    accepted = accept_version(version);
+    if (accepted) read_song(fields, version);
+  } catch (const RuntimeError&) {
     song_ = before;
     length_.calcultime();
     flags_.song_loading = false;
-    throw RuntimeError(error.number(), current_name.get());
+    throw;
   }
   put_cursor_home();
   flags_.modified = false;
+  return accepted;
 }
 
-void SongFile::open(FieldReader& fields) {
-  const double version = fields.number();
+bool SongFile::accept_version(double version) {
   if (version > kNewestVersion) {
     dialogs_.message({"This file has been created with Lunavox " +
                           plain_number(static_cast<long long>(shared_index_)) +
                           " Please download a more recent version of Lunavox at " +
                           kDownloadAddress,
                       "", Icon::kNone, Buttons::kOk});
-  } else if (version < kOldestVersion) {
+    return false;
+  }
+  if (version < kOldestVersion) {
     dialogs_.message(
         {"Sorry incompatibility with Lunavox 1.0 alpha files !", "", Icon::kNone, Buttons::kOk});
-  } else {
-    read_song(fields, version);
+    return false;
   }
+  return true;
 }
 
 void SongFile::read_song(FieldReader& fields, double version) {

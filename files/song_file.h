@@ -40,9 +40,14 @@ class SongFile {
   /// Reads the current file name into the song as it stands: the tracks that are missing are added,
   /// none are removed, and the file's bookmarks join those of the song. Files of versions that are
   /// too new or too old are refused with a message; `modified` is cleared then too.
+  /// @return false when the file was refused
   /// @throws RuntimeError for a file that cannot be read, ends early or breaks a bound; the song
   ///         and its flags are as they were before, then
-  void procopen();
+  bool procopen();
+
+  /// What procopen() does with the contents of a file; the reader stands behind the song
+  /// afterwards.
+  bool read(FieldReader& fields);
 
   /// The loop index that the song routines share for tracks. After a pass over all tracks it stands
   /// one past the last; the message about newer versions shows it in place of a version, as users
@@ -51,7 +56,7 @@ class SongFile {
   void set_shared_index(int index) { shared_index_ = index; }
 
  private:
-  void open(FieldReader& fields);
+  bool accept_version(double version);
   void read_song(FieldReader& fields, double version);
   void add_missing_tracks(int track_count);
   void read_groups(FieldReader& fields, double version);
