@@ -8,13 +8,10 @@
 namespace lunavox {
 namespace {
 
-constexpr int kTextMargin = 5;
+constexpr int kTextMargin = 7;
+constexpr int kChipMargin = 2;
+constexpr int kChipWidth = 36;
 constexpr Colour kNoBackground = kBlack;
-
-QColor ground_of(const Cell& cell, bool marked) {
-  if (cell.background != kNoBackground) return theme::colour(cell.background);
-  return marked ? theme::kAccentDeep : theme::kPanel;
-}
 
 QColor text_colour_of(const Cell& cell, bool marked) {
   if (cell.background != kNoBackground) return theme::colour(cell.text_colour);
@@ -25,10 +22,21 @@ QColor text_colour_of(const Cell& cell, bool marked) {
 
 void paint_fixed_cell(QPainter& painter, const QRect& rect, const Cell& cell, int text_pixels,
                       bool marked, bool track_end) {
-  painter.fillRect(rect, ground_of(cell, marked));
+  painter.fillRect(rect, marked ? theme::kAccentDeep : theme::kPanel);
   painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), theme::kLine);
   painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()),
                    track_end ? theme::kTrackLine : theme::kLine);
+  if (cell.background != kNoBackground) {
+    // A cell with a colour of its own, such as a beat's, shows it on a chip around its text: a
+    // whole column of it would outshine the notes.
+    const QRect chip(rect.left() + kChipMargin, rect.top() + kChipMargin - 1,
+                     theme::scaled(kChipWidth), rect.height() - 2 * kChipMargin + 1);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme::colour(cell.background));
+    painter.drawRoundedRect(chip, 3, 3);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+  }
   QFont font = theme::caption_font();
   font.setPixelSize(text_pixels);
   font.setBold(marked || cell.background != kNoBackground);
@@ -75,11 +83,13 @@ void GridHeader::update_section(int section) {
 }
 
 void GridHeader::paintEvent(QPaintEvent* event) {
-  {
-    QPainter painter(viewport());
-    painter.fillRect(event->rect(), theme::kGrid);
-  }
   QHeaderView::paintEvent(event);
+  // Beyond the last section there is nothing but the grid's ground.
+  QPainter painter(viewport());
+  const int end = length() - offset();
+  painter.fillRect(orientation() == Qt::Horizontal ? viewport()->rect().adjusted(end, 0, 0, 0)
+                                                   : viewport()->rect().adjusted(0, end, 0, 0),
+                   theme::kGrid);
 }
 
 void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {

@@ -85,8 +85,8 @@ void MainWindow::add_panels(PanelStrip& strip) {
   strip.add(new ControlsPanel(model_.skin, model_.pictures, model_.transport, model_.recorder));
   strip.add(new DurationPanel(model_.song_length.timemin));
   add_number_panels(strip);
-  strip.add(new VoicePanel(model_.voice_name));
   strip.add(new XgPanel(model_.song, model_.xg_effects, done));
+  strip.add(new VoicePanel(model_.voice_name));
   strip.add(new BookmarkPanel(model_.skin, model_.pictures, model_.song, model_.bookmarks, done));
   const MiscPanel::Handlers misc = {
       [this](bool checked) { model_.screen.area_click(checked); }, commands_.realtime_checked,

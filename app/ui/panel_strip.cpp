@@ -29,6 +29,22 @@ int PanelStrip::panel_height() const {
 }
 
 std::vector<QRect> PanelStrip::places(int width) const {
+  std::vector<QRect> narrowest = rows_within(width);
+  // Where one row does not do, the rows are made as even as they get: they look set, not broken,
+  // and the panels keep their places over a range of widths.
+  const auto rows = [](const std::vector<QRect>& places) {
+    return places.empty() ? 0 : places.back().top();
+  };
+  constexpr int kStep = 8;
+  for (int less = width - kStep; less > 0; less -= kStep) {
+    std::vector<QRect> tried = rows_within(less);
+    if (rows(tried) > rows(narrowest)) break;
+    narrowest = std::move(tried);
+  }
+  return narrowest;
+}
+
+std::vector<QRect> PanelStrip::rows_within(int width) const {
   const int gap = theme::scaled(kGap);
   const int height = panel_height();
   std::vector<QRect> places;

@@ -23,6 +23,8 @@ class PanelStrip : public QWidget {
  private:
   /// Places of the panels in a width, row by row.
   std::vector<QRect> places(int width) const;
+  /// As they come, each row filled before the next begins.
+  std::vector<QRect> rows_within(int width) const;
   int panel_height() const;
 
   std::vector<QWidget*> panels_;

@@ -33,14 +33,11 @@ GridView::Heights scaled(const GridView::Heights& heights) {
 SongGrids::SongGrids(const Model& model, NoteKeyboard& keyboard,
                      std::function<void(int column, int row)> effects_click)
     : model_(model),
-      channels_scroll_(model.song.channels, model.screen, 1),
-      effects_scroll_(model.song.effects, model.screen, kSettingsPerTrack),
-      tracks_scroll_(model.song.tracks, model.screen, kColumnsPerTrack),
       channels_(new ChannelsView(model.song)),
       effects_(new EffectsView(model.song, std::move(effects_click))),
       tracks_(new TracksView(model.song, model.flags, model.curs, keyboard)),
       defilchan_(new QScrollBar(Qt::Horizontal)) {
-  const GridView::Heights header = {kChannelsHeight, 0, 13, 12};
+  const GridView::Heights header = {kChannelsHeight, 0, 13, 11};
   channels_->set_heights(scaled(header));
   channels_->setFixedHeight(theme::scaled(kChannelsHeight));
   effects_->set_heights(scaled(kSettingHeights));
@@ -99,6 +96,7 @@ void SongGrids::fit_scroll_bar() {
   const int hidden = model_.song.track_count - tracks_shown();
   const int maximum = std::max(model_.screen.defilchan_max.get(), hidden + 1);
   defilchan_->setRange(1, std::max(maximum, 1));
+  defilchan_->setEnabled(maximum > 1);
   defilchan_->setPageStep(tracks_shown());
 }
 

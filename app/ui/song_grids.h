@@ -1,6 +1,5 @@
 #pragma once
 
-#include "edit/grid_events.h"
 #include "grid/flags.h"
 #include "grid/screen.h"
 #include "grid/song.h"
@@ -47,9 +46,6 @@ class SongGrids : public QWidget, private CellGridObserver {
   int tracks_shown() const;
 
   Model model_;
-  TrackScroll channels_scroll_;
-  TrackScroll effects_scroll_;
-  TrackScroll tracks_scroll_;
   ChannelsView* channels_;
   EffectsView* effects_;
   TracksView* tracks_;

@@ -66,11 +66,9 @@ void WindowShell::tie() {
   screen_dialogs_.set_window(window_.get());
   progress_.set_window(window_.get());
   e.notequeue.set_wake([this] { driver_.wake(); });
-  e.end_program = [this](int status) { end(status); };
-  e.recorder.set_focus_tracks([this] { window_->focus_tracks(); });
+  e.shell = {[this](int status) { end(status); }, [this] { drum_kit_->open(); },
+             [this] { instrument_->open(); }, [this] { window_->focus_tracks(); }};
   count_in_->set_hooks([&e] { e.realtime_loop.cancel(); }, [this] { window_->focus_tracks(); });
-  e.curves.set_hooks({[this] { drum_kit_->open(); }, [this] { instrument_->open(); },
-                      [&e] { e.typing_mode.finish(); }});
   start_up_.set_hooks({[this](const std::vector<std::string>& names) { choose_input(names); },
                        [this] { window_->refresh_status(); }});
 }

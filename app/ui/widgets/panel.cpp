@@ -21,9 +21,9 @@ Panel::Panel(const QString& name, const QString& caption, QWidget* parent)
   setProperty("panel", true);
   setAccessibleName(caption);
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(theme::scaled(7), theme::scaled(3), theme::scaled(7),
-                             theme::scaled(5));
-  column->setSpacing(theme::scaled(3));
+  column->setContentsMargins(theme::scaled(7), theme::scaled(2), theme::scaled(7),
+                             theme::scaled(3));
+  column->setSpacing(theme::scaled(1));
   column->addWidget(make_caption(caption, this));
   row_->setContentsMargins(0, 0, 0, 0);
   row_->setSpacing(theme::scaled(5));

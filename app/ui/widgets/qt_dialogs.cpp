@@ -2,11 +2,13 @@
 
 #include "app/ui/widgets/theme.h"
 
+#include <QCheckBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
+#include <QSettings>
 
 namespace lunavox {
 namespace {
@@ -54,8 +56,7 @@ QString file_filter(const std::string& filter) {
   const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
   const QString name = parts.first().section(QLatin1Char('('), 0, 0).trimmed();
   QString patterns = parts.last();
-  return QStringLiteral("%1 (%2)").arg(
-      name, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
+  return QStringLiteral("%1 (%2)").arg(name, patterns.replace(QLatin1Char(';'), QLatin1Char(' ')));
 }
 
 QString first_suffix(const std::string& filter) {
@@ -65,6 +66,8 @@ QString first_suffix(const std::string& filter) {
 }
 
 Answer QtDialogs::message(const Message& message) {
+  const QString notice = QStringLiteral("notices/") + QString::fromStdString(message.notice);
+  if (!message.notice.empty() && QSettings().value(notice).toBool()) return Answer::kOk;
   QMessageBox box(window_);
   box.setObjectName(QStringLiteral("message"));
   box.setWindowTitle(message.title.empty() ? QStringLiteral("Lunavox")
@@ -77,7 +80,14 @@ Answer QtDialogs::message(const Message& message) {
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
                               : QMessageBox::StandardButtons(QMessageBox::Ok));
   box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
+  QCheckBox* seen = nullptr;
+  if (!message.notice.empty()) {
+    seen = new QCheckBox(QStringLiteral("Don't show again"), &box);
+    seen->setObjectName(QStringLiteral("dontshow"));
+    box.setCheckBox(seen);
+  }
   const int button = box.exec();
+  if (seen != nullptr && seen->isChecked()) QSettings().setValue(notice, true);
   return asks ? answer_of(button) : Answer::kOk;
 }
 

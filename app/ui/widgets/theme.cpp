@@ -99,6 +99,7 @@ QScrollBar::handle:vertical { min-height: 28px; }
 QScrollBar::handle:horizontal { min-width: 28px; }
 QScrollBar::handle:hover { background: #545c6b; }
 QScrollBar::handle:pressed { background: #ffb454; }
+QScrollBar::handle:disabled { background: #191c22; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QGroupBox { border: 1px solid #30353f; border-radius: 4px; margin-top: 9px; padding-top: 6px; }
