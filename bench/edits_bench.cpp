@@ -14,8 +14,8 @@ constexpr int kOtherTrack = 3;
 
 class Edits {
  public:
-  Edits(Editor& editor, OneAnswer& dialogs, const std::function<void()>& show)
-      : editor_(editor), song_(editor.song), dialogs_(dialogs), show_(show) {}
+  Edits(Editor& editor, OneAnswer& dialogs, const Display& display)
+      : editor_(editor), song_(editor.song), dialogs_(dialogs), display_(display) {}
 
   /// Enters a start value into the shown curve, which has no other key: all its lines change.
   double change_start_value() {
@@ -54,11 +54,13 @@ class Edits {
  private:
   template <class Work>
   double timed(Work work) {
-    show_();  // what the preparations have changed
-    return seconds_of([&] {
-      work();
-      show_();
-    });
+    display_.settle();
+    return seconds_of(
+        [&] {
+          work();
+          display_.show();
+        },
+        display_.now);
   }
 
   void select_all_notes(int track) {
@@ -69,7 +71,7 @@ class Edits {
   Editor& editor_;
   Song& song_;
   OneAnswer& dialogs_;
-  std::function<void()> show_;
+  Display display_;
   std::string start_value_;
   int source_ = kTrack;
 };
@@ -77,15 +79,16 @@ class Edits {
 }  // namespace
 
 void add_edit_figures(Figures& figures, Editor& editor, OneAnswer& dialogs,
-                      const std::string& where, const std::function<void()>& show) {
-  const auto edits = std::make_shared<Edits>(editor, dialogs, show);
-  figures.add_time("start value of a curve changed" + where, kFrameMs,
+                      const Display& display) {
+  const auto edits = std::make_shared<Edits>(editor, dialogs, display);
+  figures.add_time("start value of a curve changed" + display.where, kFrameMs,
                    [edits] { return edits->change_start_value(); });
-  figures.add_time("all ten effect columns redrawn" + where, kFrameMs,
+  figures.add_time("all ten effect columns redrawn" + display.where, kFrameMs,
                    [edits] { return edits->redraw_effect_columns(); });
-  figures.add_time("8 columns transposed" + where, kFrameMs,
+  figures.add_time("8 columns transposed" + display.where, kFrameMs,
                    [edits] { return edits->transpose(); });
-  figures.add_time("8 columns pasted" + where, kFrameMs, [edits] { return edits->paste(); });
+  figures.add_time("8 columns pasted" + display.where, kFrameMs,
+                   [edits] { return edits->paste(); });
 }
 
 }  // namespace lunavox::bench

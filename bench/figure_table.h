@@ -1,17 +1,18 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace lunavox::bench {
 
-/// One figure that is to be reached, as it came out.
+/// One figure, as it came out.
 struct Figure {
   std::string what;
-  double best = 0;    ///< of all repetitions
-  double median = 0;  ///< of all repetitions
-  double limit = 0;   ///< the figure is reached up to this
-  std::string unit;   ///< of all three
+  double value = 0;              ///< of repeated runs the best one's
+  std::optional<double> median;  ///< of repeated runs
+  std::optional<double> limit;   ///< the figure is reached up to this; none where it only informs
+  std::string unit;              ///< of all three
 };
 
 /// Whether a figure is reached. The best repetition tells: what other programs take from the

@@ -1,6 +1,7 @@
 #include "bench/figures.h"
 
 #include <algorithm>
+#include <chrono>
 #include <map>
 #include <memory>
 
@@ -59,6 +60,11 @@ double processor_seconds() {
   return static_cast<double>(used.tv_sec) + static_cast<double>(used.tv_nsec) * 1e-9;
 }
 
+double elapsed_seconds() {
+  using std::chrono::steady_clock;
+  return std::chrono::duration<double>(steady_clock::now().time_since_epoch()).count();
+}
+
 void Figures::add_ratio(const std::string& what, double limit, const TimedRun& subject,
                         const TimedRun& reference) {
   entries_.push_back({what, limit, true});
@@ -78,14 +84,14 @@ std::vector<Figure> Figures::measure(bool details) const {
   for (const Entry& entry : entries_) {
     const std::vector<double>& times = collector.times(entry.what);
     if (times.empty()) continue;
-    Figure figure{entry.what, best_of(times), median_of(times), entry.limit, "ms"};
+    double best = best_of(times);
+    double median = median_of(times);
     if (entry.ratio) {
       const std::vector<double>& reference = collector.times(entry.what + kReference);
-      figure.best /= best_of(reference);
-      figure.median /= median_of(reference);
-      figure.unit = "x";
+      best /= best_of(reference);
+      median /= median_of(reference);
     }
-    figures.push_back(figure);
+    figures.push_back({entry.what, best, median, entry.limit, entry.ratio ? "x" : "ms"});
   }
   return figures;
 }

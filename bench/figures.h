@@ -11,16 +11,21 @@ namespace lunavox::bench {
 /// One run of what is measured; returns the seconds that count, so that preparations do not.
 using TimedRun = std::function<double()>;
 
-/// The processor seconds that this thread has used so far.
-double processor_seconds();
+/// A clock, in seconds.
+using Now = double (*)();
 
-/// Processor seconds that some work takes: what other programs take from the machine meanwhile does
-/// not count. For work that waits for nothing.
+/// The processor seconds that this thread has used so far: for work that waits for nothing. What
+/// other programs take from the machine meanwhile does not count.
+double processor_seconds();
+/// The time of day, as it were: for work in which others have a part, such as the display.
+double elapsed_seconds();
+
+/// Seconds that some work takes.
 template <class Work>
-double seconds_of(Work work) {
-  const double start = processor_seconds();
+double seconds_of(Work work, Now now = processor_seconds) {
+  const double start = now();
   work();
-  return processor_seconds() - start;
+  return now() - start;
 }
 
 /// The figures that are taken with Google Benchmark. Repetitions of all runs are interleaved at

@@ -1,7 +1,6 @@
 #include "bench/song_file_bench.h"
 
 #include "files/event_text.h"
-#include "files/midi_export.h"
 
 #include <charconv>
 #include <fstream>
@@ -135,14 +134,14 @@ void add_save_figure(Figures& figures, Editor& editor) {
       [fields] { return seconds_of([&] { benchmark::DoNotOptimize(write_bare(*fields)); }); });
 }
 
-void add_export_figure(Figures& figures, QuietEditor& quiet, const std::string& file) {
-  const auto midi_export = std::make_shared<MidiExport>(quiet.editor.song, quiet.progress);
-  midi_export->export_name = file;
-  midi_export->procexport();
+void add_export_figure(Figures& figures, Editor& editor, const std::string& file) {
+  MidiExport& midi_export = editor.midi_export;
+  midi_export.export_name = file;
+  midi_export.procexport();
   const auto exported = std::make_shared<std::string>(bytes_of(file));
   figures.add_ratio(
       "procexport of the largest song, to writing its bytes", 3,
-      [midi_export] { return seconds_of([&] { midi_export->procexport(); }); },
+      [&midi_export] { return seconds_of([&] { midi_export.procexport(); }); },
       [exported] { return seconds_of([&] { benchmark::DoNotOptimize(export_bare(*exported)); }); });
 }
 
@@ -153,7 +152,7 @@ void add_song_file_figures(Figures& figures, QuietEditor& quiet, const ScratchFo
   quiet.editor.song_file.procsave();
   add_open_figures(figures, quiet.editor);
   add_save_figure(figures, quiet.editor);
-  add_export_figure(figures, quiet, folder.file("largest.mid"));
+  add_export_figure(figures, quiet.editor, folder.file("largest.mid"));
 }
 
 }  // namespace lunavox::bench

@@ -1,0 +1,52 @@
+#include "app/ui/widgets/theme.h"
+#include "bench/timing.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QEventLoop>
+#include <QTimer>
+#include <cstdlib>
+
+namespace lunavox::bench {
+
+void run_events(int milliseconds) {
+  QEventLoop events;
+  QTimer::singleShot(milliseconds, Qt::PreciseTimer, &events, &QEventLoop::quit);
+  events.exec();
+}
+
+namespace {
+
+/// @return whether all figures are reached
+bool run(int seconds) {
+  constexpr std::size_t kMessagesPerLine = 10 * (10 + 2 * kNoteColumns);
+  constexpr std::size_t kLinesPerSecond = 40;
+  bool all = print_rows(start_timing(QStringLiteral(LUNAVOX_PROGRAM)));
+  StampedOutputs outputs(static_cast<std::size_t>(seconds + 10) * kLinesPerSecond *
+                         kMessagesPerLine);
+  ShownEditor shown(outputs);
+  all = print_rows(pass_through_timing(shown, outputs)) && all;
+  all = print_rows(processor_use(shown, outputs, std::min(seconds, 5))) && all;
+  return print_rows(line_timing(shown, outputs, seconds)) && all;
+}
+
+}  // namespace
+}  // namespace lunavox::bench
+
+// lunavox_timing [--seconds N] [--no-header]: measures the running editor in its window and prints
+// one row a figure. Ends with status 1 where a figure is over its limit.
+int main(int argc, char** argv) {
+  using namespace lunavox;
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("lunavox-bench"));
+  theme::apply(application);
+  QCommandLineParser options;
+  const QCommandLineOption seconds("seconds", "how long lines are timed, 1..70", "N", "60");
+  const QCommandLineOption no_header("no-header", "prints the rows alone");
+  options.addOptions({seconds, no_header});
+  options.addHelpOption();
+  options.process(application);
+  if (!options.isSet(no_header)) bench::print_header();
+  const int count = std::clamp(options.value(seconds).toInt(), 1, 70);
+  return bench::run(count) ? EXIT_SUCCESS : EXIT_FAILURE;
+}
