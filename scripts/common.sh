@@ -85,3 +85,23 @@ build() {
     quietly "build/log/$preset-build" cmake --build --preset "$preset" -j "$(nproc)" \
       "${targets[@]}")
 }
+
+# start_display: starts an X server on the first free display, in the size of the largest window,
+# and waits until it has said which. Its process is $xvfb, for the script's end to end it.
+start_display() {
+  local display
+  coproc server { exec Xvfb -displayfd 1 -screen 0 1600x1200x24 -nolisten tcp 2>/dev/null; }
+  # shellcheck disable=SC2034,SC2154 # coproc sets it, and the script's end reads it
+  xvfb=$server_PID
+  read -r -t 30 display <&"${server[0]}" || return 1
+  export DISPLAY=:$display QT_QPA_PLATFORM=xcb
+}
+
+# at_home COMMAND...: with $home for a home, away from the user's settings and songs.
+# shellcheck disable=SC2154 # the script sets it
+at_home() (
+  export HOME=$home XDG_CONFIG_HOME=$home/config XDG_STATE_HOME=$home/state
+  export XDG_DATA_HOME=$home/data XDG_CACHE_HOME=$home/cache XDG_RUNTIME_DIR=$home/run
+  [ -d "$XDG_RUNTIME_DIR" ] || mkdir -m 700 "$XDG_RUNTIME_DIR"
+  "$@"
+)
