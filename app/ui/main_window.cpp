@@ -14,9 +14,11 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QSettings>
 #include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace lunavox {
@@ -40,9 +42,10 @@ MainWindow::MainWindow(const WindowModel& model, const WindowCommands& commands)
       grids_(new SongGrids({model.song, model.flags, model.screen, model.options.curs},
                            model.keyboard, commands.effects_click)),
       status_(new StatusLine),
-      edit_menu_(&build_menus(*menuBar(), commands.menu, model.outputdev.items)) {
+      edit_menu_(&build_menus(*menuBar(), commands.menu, model.outputdev.items, model.recent)) {
   setObjectName(QStringLiteral("Form1"));
   setWindowTitle(QStringLiteral("Lunavox 2.1"));
+  setAcceptDrops(true);
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
@@ -134,12 +137,18 @@ void MainWindow::leave_field_for(const QWidget& pressed) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (commands_.may_close && !commands_.may_close()) {
-    event->ignore();
-    return;
-  }
   QSettings().setValue(QLatin1String(kPlaceSetting), saveGeometry());
-  event->accept();
+  event->setAccepted(commands_.quit());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QList<QUrl> files = event->mimeData()->urls();
+  event->acceptProposedAction();
+  if (!files.isEmpty()) commands_.open_song(files.first().toLocalFile().toStdString());
 }
 
 void MainWindow::restore_place() {

@@ -35,6 +35,7 @@ struct WindowModel {
   OutputChoice& outputdev;
   OutputPort& output;
   Property<std::string>& voice_name;
+  Property<std::vector<std::string>>& recent;  ///< the latest songs' names
   Property<std::string>& file_name;  ///< the current song file's name, empty for a new song
   NoteKeyboard& keyboard;
   SkinPictures& skin;
@@ -45,7 +46,10 @@ struct WindowCommands {
   MenuCommands menu;
   std::function<void(int column, int row)> effects_click;
   std::function<void()> realtime_checked;  ///< shows the realtime record options
-  std::function<bool()> may_close;         ///< asks about unsaved work; false keeps the window
+  /// Closes the ports and ends the program after asking about unsaved work; false where the user
+  /// wants to go on.
+  std::function<bool()> quit;
+  std::function<void(const std::string& name)> open_song;  ///< a file was dropped on the window
   std::function<std::string()> input_status;
 };
 
@@ -63,6 +67,8 @@ class MainWindow : public QMainWindow, private CellGridObserver {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void add_panels(PanelStrip& strip);

@@ -3,11 +3,14 @@
 #include "app/ui/widgets/follow.h"
 
 #include <QAction>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 
 namespace lunavox {
 namespace {
+
+constexpr int kRecentSongs = 8;
 
 QMenu& add_menu(QMenuBar& bar, const char* name, const char* caption) {
   QMenu* menu = bar.addMenu(QLatin1String(caption));
@@ -74,10 +77,39 @@ void build_output_menu(QMenuBar& bar, const MenuCommands& commands,
   });
 }
 
+/// The latest songs, after the file commands.
+void add_recent_songs(QMenu& menu, const MenuCommands& commands,
+                      Property<std::vector<std::string>>& recent) {
+  QAction* separator = menu.addSeparator();
+  std::vector<QAction*> items;
+  for (int index = 0; index < kRecentSongs; ++index) {
+    QAction& item = add(menu, "", "", [&recent, open = commands.open_recent, index] {
+      const auto& names = recent.get();
+      if (index < static_cast<int>(names.size())) {
+        open(std::string(names[static_cast<std::size_t>(index)]));
+      }
+    });
+    item.setObjectName(QStringLiteral("recent%1").arg(index));
+    items.push_back(&item);
+  }
+  follow(recent, &menu, [separator, items](const std::vector<std::string>& names) {
+    separator->setVisible(!names.empty());
+    for (std::size_t i = 0; i < items.size(); ++i) {
+      items[i]->setVisible(i < names.size());
+      if (i >= names.size()) continue;
+      const QString name = QString::fromStdString(names[i]);
+      QString caption = QFileInfo(name).fileName();
+      items[i]->setText(caption.replace(QLatin1Char('&'), QStringLiteral("&&")));
+      items[i]->setStatusTip(name);
+    }
+  });
+}
+
 }  // namespace
 
 QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
-                   Property<std::vector<OutputItem>>& outputs) {
+                   Property<std::vector<OutputItem>>& outputs,
+                   Property<std::vector<std::string>>& recent) {
   QMenu& file = add_menu(bar, "menufile", "&File");
   add(file, "menunew", "New", commands.menunew);
   add(file, "menuopen", "Open", commands.menuopen);
@@ -85,6 +117,7 @@ QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
   add(file, "menusaveas", "Save as", commands.menusaveas);
   add(file, "menuexport", "Export as .mid", commands.menuexport);
   add(file, "menuquit", "Quit", commands.menuquit);
+  add_recent_songs(file, commands, recent);
   QMenu& edit = build_edit_menu(bar, commands);
   QMenu& input = add_menu(bar, "menuinput", "&Input device");
   add(input, "menuask", "Ask for input device next launch", commands.menuask);

@@ -4,6 +4,7 @@
 #include "midi/output_choice.h"
 
 #include <functional>
+#include <string>
 #include <vector>
 
 class QMenu;
@@ -19,6 +20,7 @@ struct MenuCommands {
   std::function<void()> menusaveas;
   std::function<void()> menuexport;
   std::function<void()> menuquit;
+  std::function<void(const std::string& name)> open_recent;
   std::function<void()> menucut;
   std::function<void()> menucopy;
   std::function<void()> menupaste;
@@ -39,8 +41,10 @@ struct MenuCommands {
 };
 
 /// Fills the menu bar.
+/// @param recent  names of the songs that were last opened or saved, the latest first
 /// @return the menu `menuedit`, which also opens over the note grid
 QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
-                   Property<std::vector<OutputItem>>& outputs);
+                   Property<std::vector<OutputItem>>& outputs,
+                   Property<std::vector<std::string>>& recent);
 
 }  // namespace lunavox

@@ -3,7 +3,6 @@
 #include "app/ui/keyboard_detection.h"
 #include "app/ui/widgets/theme.h"
 #include "app/ui/window_shell.h"
-#include "grid/runtime_error.h"
 
 #include <QApplication>
 #include <functional>
@@ -29,21 +28,12 @@ class Application : public QApplication {
   }
 };
 
-/// Tells the user of a fault and ends the program.
-void end_on_fault(WindowShell& shell, const std::string& text) {
-  if (shell.ended()) return;
-  shell.end(1);
-  shell.editor().current_loop.set(nullptr);
-  shell.editor().world.dialogs.error(text);
-  QCoreApplication::exit(1);
-}
-
-int run(Application& application, WindowShell& shell) {
-  application.fault = [&shell](const std::string& text) { end_on_fault(shell, text); };
+int run(Application& application, WindowShell& shell, const std::string& song) {
+  application.fault = [&shell](const std::string& text) { shell.end_on_fault(text); };
   try {
-    shell.start();
-  } catch (const RuntimeError& error) {
-    end_on_fault(shell, error.what());
+    shell.start(song);
+  } catch (const std::exception& error) {
+    shell.end_on_fault(error.what());
   }
   return shell.ended() ? *shell.ended() : QApplication::exec();
 }
@@ -64,7 +54,7 @@ int run_window(const CommandLine& line, OutputDevices& outputs, InputDevices& in
   const auto executable = QApplication::applicationFilePath().toStdString();
   const StartUp::Wishes wishes = {line.output, line.input, keyboard_layout(line.keyboard)};
   WindowShell shell({outputs, inputs, clock, find_program_folders(executable)}, wishes);
-  return run(application, shell);
+  return run(application, shell, line.song);
 }
 
 }  // namespace lunavox

@@ -7,7 +7,10 @@
 #include "midi/ui/record_options_dialog.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QScreen>
+#include <QUrl>
+#include <algorithm>
 
 namespace lunavox {
 namespace {
@@ -21,6 +24,7 @@ Screen primary_screen() {
 
 WindowShell::WindowShell(const Machine& machine, const StartUp::Wishes& wishes, Dialogs* dialogs)
     : folders_(machine.folders),
+      clock_(machine.clock),
       dialogs_(dialogs != nullptr ? *dialogs : screen_dialogs_),
       count_in_(std::make_unique<CountInDialog>()),
       editor_(std::make_unique<Editor>(
@@ -28,26 +32,20 @@ WindowShell::WindowShell(const Machine& machine, const StartUp::Wishes& wishes, 
           primary_screen())),
       config_(folders_.config_file()),
       start_up_(*editor_, config_, folders_, wishes),
+      recent_(folders_.config / "recent"),
+      file_commands_({editor_->song, editor_->flags, editor_->tracks, editor_->song_length,
+                      editor_->song_file, editor_->midi_export, recent_, dialogs_},
+                     folders_.readme()),
+      recovery_(editor_->song, editor_->flags, editor_->song_file, machine.clock, folders_.state),
       keyboard_(editor_->note_keys, editor_->typing_mode, wishes.keyboard),
       skin_(folders_.skin),
       driver_(editor_->current_loop, machine.clock) {
   Editor& e = *editor_;
-  const WindowModel model = {e.song,
-                             e.flags,
-                             e.screen,
-                             e.song_length,
-                             e.options,
-                             e.pictures,
-                             e.transport,
-                             e.recorder,
-                             e.xg_effects,
-                             e.bookmarks,
-                             e.outputdev,
-                             e.output,
-                             e.voice_name.text,
-                             e.song_file.current_name,
-                             keyboard_,
-                             skin_};
+  const WindowModel model = {
+      e.song,      e.flags,     e.screen,          e.song_length, e.options,
+      e.pictures,  e.transport, e.recorder,        e.xg_effects,  e.bookmarks,
+      e.outputdev, e.output,    e.voice_name.text, recent_.names, e.song_file.current_name,
+      keyboard_,   skin_};
   window_ = std::make_unique<MainWindow>(model, window_commands());
   record_options_ = std::make_unique<RecordOptionsDialog>(e.options, dialogs_, window_.get());
   instrument_ = std::make_unique<InstrumentDialog>(e.voice_choice, window_.get());
@@ -71,12 +69,13 @@ void WindowShell::tie() {
   count_in_->set_hooks([&e] { e.realtime_loop.cancel(); }, [this] { window_->focus_tracks(); });
   start_up_.set_hooks({[this](const std::vector<std::string>& names) { choose_input(names); },
                        [this] { window_->refresh_status(); }});
+  tie_files();
 }
 
 MenuCommands WindowShell::menu_commands() {
   Editor& e = *editor_;
   MenuCommands commands;
-  commands.menuquit = [this] { window_->close(); };
+  add_file_commands(commands);
   commands.menucut = [&e] { e.clipboard.cutproc(); };
   commands.menucopy = [&e] { e.clipboard.copyproc(); };
   commands.menupaste = [&e] { e.clipboard.pasteproc(); };
@@ -95,14 +94,63 @@ MenuCommands WindowShell::menu_commands() {
 
 WindowCommands WindowShell::window_commands() {
   Editor& e = *editor_;
-  return {menu_commands(), [&e](int column, int row) { e.curves.effects_click(column, row); },
-          [this] { record_options_->show(); }, [this] { return may_close(); },
+  return {menu_commands(),
+          [&e](int column, int row) { e.curves.effects_click(column, row); },
+          [this] { record_options_->show(); },
+          [this] { return quit(); },
+          [this](const std::string& name) { file_commands_.open_path(name); },
           [&e] { return e.input.status(); }};
 }
 
-bool WindowShell::may_close() {
-  editor_->close_ports();
-  return true;
+void WindowShell::add_file_commands(MenuCommands& commands) {
+  FileCommands& files = file_commands_;
+  commands.menunew = [&files] { files.menunew_click(); };
+  commands.menuopen = [&files] { files.menuopen_click(); };
+  commands.menusave = [&files] { files.menusave_click(); };
+  commands.menusaveas = [&files] { files.menusaveas_click(); };
+  commands.menuexport = [&files] { files.menuexport_click(); };
+  commands.menuquit = [this] { window_->close(); };
+  commands.open_recent = [&files](const std::string& name) { files.open_path(name); };
+  commands.menuhelp = [&files] { files.menuhelp_click(); };
+  commands.menuauthor = [&files] { files.menuauthor_click(); };
+}
+
+void WindowShell::tie_files() {
+  Editor& e = *editor_;
+  const auto stop_playing = [&e] {
+    if (e.flags.playing) e.transport.playnotes_mouseup();
+  };
+  const auto quit_program = [this] {
+    editor_->close_ports();
+    recovery_.end();
+    end(0);
+  };
+  const auto open_document = [](const std::filesystem::path& document) {
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(document.string())));
+  };
+  const auto song_changed = [this] {
+    editor_->voice_name.refresh();
+    window_->refresh_status();
+  };
+  file_commands_.set_hooks({stop_playing, quit_program, open_document, song_changed});
+  screen_dialogs_.set_folder([this] { return recent_.last_folder(); });
+  recovery_timer_.setSingleShot(true);
+  QObject::connect(&recovery_timer_, &QTimer::timeout, [this] { keep_song(); });
+  recovery_.on_due([this] { keep_song(); });
+}
+
+// Writes the recovery file when it is due, and comes back when it will be.
+void WindowShell::keep_song() {
+  recovery_.pass(clock_.timeGetTime());
+  const auto due = recovery_.next_due();
+  if (!due) return;
+  const auto left = static_cast<std::int32_t>(elapsed_ms(clock_.timeGetTime(), *due));
+  recovery_timer_.start(std::max(left, 1));
+}
+
+bool WindowShell::quit() {
+  if (!ended_) file_commands_.menuquit_click();
+  return ended_.has_value();
 }
 
 void WindowShell::choose_input(const std::vector<std::string>& names) {
@@ -114,10 +162,26 @@ void WindowShell::choose_input(const std::vector<std::string>& names) {
   }
 }
 
-void WindowShell::start() {
+void WindowShell::start(const std::string& song) {
+  recent_.load();
   window_->show();
   start_up_.load();
+  if (ended_) return;
+  recovery_.offer_orphans(dialogs_);
+  if (!song.empty()) file_commands_.open_path(song);
   window_->focus_tracks();
+}
+
+void WindowShell::end_on_fault(const std::string& text) {
+  if (ended_) return;
+  ended_ = 1;
+  editor_->current_loop.set(nullptr);
+  const bool kept = recovery_.write_now();
+  dialogs_.error(
+      kept ? text + "\n\nThe song as it stands is kept. Lunavox offers it at the next start."
+           : text);
+  // Last: no box can be shown any more after it.
+  end(1);
 }
 
 void WindowShell::end(int status) {

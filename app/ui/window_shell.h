@@ -8,9 +8,13 @@
 #include "app/ui/widgets/qt_progress_box.h"
 #include "app/ui/widgets/skin_pictures.h"
 #include "files/config.h"
+#include "files/file_commands.h"
 #include "files/program_folders.h"
+#include "files/recent_files.h"
+#include "files/recovery.h"
 #include "midi/ui/count_in_dialog.h"
 
+#include <QTimer>
 #include <memory>
 
 namespace lunavox {
@@ -39,20 +43,29 @@ class WindowShell {
   MainWindow& window() { return *window_; }
 
   /// Shows the window and brings the editor to life.
-  void start();
+  /// @param song  the song file to open, empty for none
+  void start(const std::string& song);
+  /// Something has happened that the current loop does not know of yet.
+  void wake() { driver_.wake(); }
   /// The exit status once something has ended the program, else none.
   std::optional<int> ended() const { return ended_; }
   /// Ends the program: its event loop returns, or is not entered.
   void end(int status);
+  /// Tells of a fault that no rule handles, keeps the song, and ends the program with status 1.
+  void end_on_fault(const std::string& text);
 
  private:
   MenuCommands menu_commands();
+  void add_file_commands(MenuCommands& commands);
   WindowCommands window_commands();
   void tie();
+  void tie_files();
   void choose_input(const std::vector<std::string>& names);
-  bool may_close();
+  bool quit();
+  void keep_song();
 
   ProgramFolders folders_;
+  Clock& clock_;
   QtDialogs screen_dialogs_;
   Dialogs& dialogs_;
   QtProgressBox progress_;
@@ -60,6 +73,10 @@ class WindowShell {
   std::unique_ptr<Editor> editor_;
   Config config_;
   StartUp start_up_;
+  RecentFiles recent_;
+  FileCommands file_commands_;
+  RecoveryFile recovery_;
+  QTimer recovery_timer_;
   NoteKeyboard keyboard_;
   SkinPictures skin_;
   LoopDriver driver_;

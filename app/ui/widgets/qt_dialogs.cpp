@@ -101,8 +101,12 @@ std::string QtDialogs::input(const Question& question) {
   return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
+QString QtDialogs::folder() const {
+  return folder_ ? QString::fromStdString(folder_()) : QString();
+}
+
 std::string QtDialogs::open_file(const FileQuestion& question) {
-  QFileDialog dialog(window_, QString::fromStdString(question.title), {},
+  QFileDialog dialog(window_, QString::fromStdString(question.title), folder(),
                      file_filter(question.filter));
   dialog.setObjectName(QStringLiteral("openfile"));
   dialog.setFileMode(QFileDialog::ExistingFile);
@@ -111,7 +115,7 @@ std::string QtDialogs::open_file(const FileQuestion& question) {
 }
 
 std::string QtDialogs::save_file(const FileQuestion& question) {
-  QFileDialog dialog(window_, QString::fromStdString(question.title), {},
+  QFileDialog dialog(window_, QString::fromStdString(question.title), folder(),
                      file_filter(question.filter));
   dialog.setObjectName(QStringLiteral("savefile"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);

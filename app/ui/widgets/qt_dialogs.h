@@ -4,6 +4,8 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <functional>
+#include <string>
 
 namespace lunavox {
 
@@ -11,6 +13,8 @@ namespace lunavox {
 class QtDialogs : public Dialogs {
  public:
   void set_window(QWidget* window) { window_ = window; }
+  /// Tells the folder that file dialogs begin in.
+  void set_folder(std::function<std::string()> folder) { folder_ = std::move(folder); }
 
   Answer message(const Message& message) override;
   std::string input(const Question& question) override;
@@ -18,7 +22,10 @@ class QtDialogs : public Dialogs {
   std::string save_file(const FileQuestion& question) override;
 
  private:
+  QString folder() const;
+
   QPointer<QWidget> window_;
+  std::function<std::string()> folder_;
 };
 
 /// "name|pattern;pattern" as Qt writes file filters: "name (pattern pattern)".

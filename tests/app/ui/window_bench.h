@@ -5,6 +5,7 @@
 #include "tests/support/scripted_dialogs.h"
 
 #include <QTest>
+#include <QTimer>
 
 namespace lunavox::test {
 
@@ -21,7 +22,7 @@ class NoInputs : public InputDevices {
 struct WindowBench {
   explicit WindowBench(int track_count = 1) {
     window.resize(1024, 768);
-    shell.start();
+    shell.start("");
     for (int t = 2; t <= track_count; ++t) editor.tracks.addinstrutrack();
     editor.song.tracks.set_cursor(1, 1);
     editor.screen.defilchan = 1;
@@ -31,6 +32,13 @@ struct WindowBench {
     window.focus_tracks();
     settle();
     outputs.calls.clear();
+  }
+
+  /// An ended program shows no more boxes: the next test's program begins anew.
+  ~WindowBench() {
+    if (!shell.ended()) return;
+    QTimer::singleShot(0, [] { QCoreApplication::quit(); });
+    QCoreApplication::exec();
   }
 
   /// Lets all that waits happen.
@@ -43,12 +51,16 @@ struct WindowBench {
     return *object;
   }
 
+  static ProgramFolders folders() {
+    const std::filesystem::path source = LUNAVOX_SOURCE_DIR;
+    return {source / "data", source / "skin", "/nonexistent", "/nonexistent"};
+  }
+
   RecordingOutput outputs;
   NoInputs inputs;
   ManualClock clock;
   ScriptedDialogs dialogs;
-  WindowShell shell{
-      {outputs, inputs, clock, {"data", "skin", "/nonexistent", "/nonexistent"}}, {}, &dialogs};
+  WindowShell shell{{outputs, inputs, clock, folders()}, {}, &dialogs};
   Editor& editor = shell.editor();
   MainWindow& window = shell.window();
 };

@@ -1,0 +1,128 @@
+#include "app/ui/widgets/qt_dialogs.h"
+#include "app/ui/widgets/qt_progress_box.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace lunavox {
+namespace {
+
+/// Does something with the box that is about to be shown, then presses a button of it.
+template <class Box, class Look>
+void answer_box(Look look) {
+  QTimer::singleShot(0, [look] {
+    auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    look(*box);
+  });
+}
+
+TEST(QtDialogs, MessagesShowTheirTextsWithTheirLineBreaks) {
+  QtDialogs dialogs;
+  answer_box<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.text().toStdString(), "Error in sending\nThe device is busy.");
+    EXPECT_EQ(box.windowTitle().toStdString(), "Lunavox");
+    box.button(QMessageBox::Ok)->click();
+  });
+  dialogs.message({"Error in sending\r\nThe device is busy.", "", Icon::kNone, Buttons::kOk, {}});
+}
+
+TEST(QtDialogs, QuestionsAreAnsweredByTheirButtons) {
+  QtDialogs dialogs;
+  const Message question = {"Save?", "Quit", Icon::kNone, Buttons::kYesNoCancel, {}};
+  for (const auto& [button, answer] :
+       {std::pair{QMessageBox::Yes, Answer::kYes}, std::pair{QMessageBox::No, Answer::kNo},
+        std::pair{QMessageBox::Cancel, Answer::kCancel}}) {
+    answer_box<QMessageBox>([b = button](QMessageBox& box) { box.button(b)->click(); });
+    EXPECT_EQ(dialogs.message(question), answer);
+  }
+}
+
+TEST(QtDialogs, EscapeCancelsAQuestion) {
+  QtDialogs dialogs;
+  answer_box<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  EXPECT_EQ(dialogs.message({"Save?", "Quit", Icon::kNone, Buttons::kYesNoCancel, {}}),
+            Answer::kCancel);
+}
+
+TEST(QtDialogs, ANoticeIsNotShownAgainOnceTheUserSaysSo) {
+  QSettings().remove(QStringLiteral("notices/test"));
+  QtDialogs dialogs;
+  const Message notice = {"Too small", "error", Icon::kCritical, Buttons::kOk, "test"};
+  answer_box<QMessageBox>([](QMessageBox& box) {
+    box.findChild<QCheckBox*>(QStringLiteral("dontshow"))->setChecked(true);
+    box.button(QMessageBox::Ok)->click();
+  });
+  dialogs.message(notice);
+  dialogs.message(notice);  // would wait for ever
+  QSettings().remove(QStringLiteral("notices/test"));
+}
+
+TEST(QtDialogs, AnInputBoxOffersItsDefaultSelectedAndIsEmptyWhenCancelled) {
+  QtDialogs dialogs;
+  answer_box<QInputDialog>([](QInputDialog& box) {
+    EXPECT_EQ(box.findChild<QLineEdit*>()->selectedText().toStdString(), "64");
+    box.findChild<QLineEdit*>()->clear();
+    QTest::keyClicks(box.findChild<QLineEdit*>(), QStringLiteral("100"));
+    box.accept();
+  });
+  EXPECT_EQ(dialogs.input({"enter a value", "effect start value", "64"}), "100");
+  answer_box<QInputDialog>([](QInputDialog& box) { box.reject(); });
+  EXPECT_EQ(dialogs.input({"enter a value", "effect start value", "64"}), "");
+}
+
+TEST(QtDialogs, FileFiltersAreWrittenTheToolkitsWay) {
+  EXPECT_EQ(file_filter("Lunavox (*.lvo;*.lvx)|*.lvo;*.lvx").toStdString(),
+            "Lunavox (*.lvo *.lvx)");
+  EXPECT_EQ(file_filter("midi file (*.mid)|*.mid").toStdString(), "midi file (*.mid)");
+  EXPECT_EQ(first_suffix("midi file (*.mid)|*.mid").toStdString(), "mid");
+}
+
+struct QtProgressBoxTest : testing::Test {
+  QtProgressBoxTest() {
+    window.resize(600, 400);
+    window.show();
+    (void)QTest::qWaitForWindowExposed(&window);
+    box.set_window(&window);
+  }
+  QWidget& card() { return *window.findChild<QWidget*>(QStringLiteral("Form3")); }
+
+  QWidget window;
+  QtProgressBox box;
+};
+
+TEST_F(QtProgressBoxTest, AShortOperationDoesNotFlash) {
+  box.show("numeroting lines...", 10);
+  box.set_value(5);
+  EXPECT_FALSE(card().isVisible());
+  box.hide();
+}
+
+TEST_F(QtProgressBoxTest, ALongOperationShowsTheBoxUntilItsEnd) {
+  box.set_patience(0);
+  box.show("numeroting lines...", 10);
+  box.set_value(5);
+  EXPECT_TRUE(card().isVisible());
+  EXPECT_EQ(card().windowTitle().toStdString(), "PLEASE WAIT...");
+  box.hide();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(card().isVisible());
+}
+
+TEST_F(QtProgressBoxTest, WorkBeforeThereIsAWindowShowsNothing) {
+  QtProgressBox early;
+  early.show("adding drum track...", 1);
+  early.set_value(1);
+  early.hide();
+}
+
+}  // namespace
+}  // namespace lunavox
