@@ -1,5 +1,6 @@
 option(LUNAVOX_TESTS "Build the tests" ON)
 option(LUNAVOX_BENCH "Build the benchmarks" OFF)
+option(LUNAVOX_FUZZ "Build the libFuzzer programs; needs clang" OFF)
 set(LUNAVOX_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 
 add_library(lunavox_options INTERFACE)
@@ -14,6 +15,11 @@ if(LUNAVOX_SANITIZE)
                                                    # false alarms in instrumented code
                                                    -Wno-maybe-uninitialized)
   target_link_options(lunavox_options INTERFACE -fsanitize=${LUNAVOX_SANITIZE})
+endif()
+if(LUNAVOX_FUZZ)
+  # The warnings are kept clean with the compiler that the program is built with.
+  target_compile_options(lunavox_options INTERFACE -fsanitize=fuzzer-no-link -Wno-error
+                                                   -Wno-unknown-warning-option)
 endif()
 
 find_program(LUNAVOX_CCACHE ccache)

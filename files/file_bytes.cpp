@@ -22,9 +22,12 @@ using File = std::unique_ptr<std::FILE, CloseFile>;
 }
 
 File open_for_reading(const std::filesystem::path& path) {
-  // Opening a folder succeeds on some systems, and only reading it fails.
+  // A folder can be opened but not read, and a pipe would hold the program up for good.
   std::error_code none;
-  if (std::filesystem::is_directory(path, none)) fail(RuntimeError::kPathFileAccessError, path);
+  const std::filesystem::file_status status = std::filesystem::status(path, none);
+  if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
+    fail(RuntimeError::kPathFileAccessError, path);
+  }
   File file(std::fopen(path.string().c_str(), "rb"));
   if (!file) fail(disk::error_for(errno), path);
   return file;
@@ -39,7 +42,7 @@ std::string read_file(const std::filesystem::path& path) {
   if (!unknown && expected > kLargestFile) fail(RuntimeError::kOutOfMemory, path);
   std::string bytes;
   if (!unknown) bytes.reserve(static_cast<std::size_t>(expected));
-  // The size is only a hint: devices have none, and a file may grow while it is read.
+  // The size is only a hint: a file may grow while it is read.
   std::array<char, 1U << 16U> part;
   while (const std::size_t count = std::fread(part.data(), 1, part.size(), file.get())) {
     bytes.append(part.data(), count);

@@ -25,12 +25,6 @@ class LineWriter {
     bytes_ += kLineEnd;
   }
 
-  /// A note entry or another text that never needs a guard.
-  void plain(std::string_view text) {
-    bytes_ += text;
-    bytes_ += kLineEnd;
-  }
-
   void integer(int value) {
     char line[16];
     char* end = line;
@@ -91,7 +85,7 @@ class SongWriter {
 
  private:
   void write_head() {
-    out_.plain("2.0");
+    out_.text("2.0");
     out_.integer(song_.track_count);
     out_.integer(song_.tracks.rows());
     out_.text(song_.step.text());
@@ -123,7 +117,7 @@ class SongWriter {
       for (int column = 1; column <= song_.used_columns.at(track); ++column) {
         const auto& entries = song_.notes.column(track, column);
         for (int row = 1; row <= song_.last_row(); ++row) {
-          out_.plain(entries[static_cast<std::size_t>(row)]);
+          out_.text(entries[static_cast<std::size_t>(row)]);
         }
       }
     }
