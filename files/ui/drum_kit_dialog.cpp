@@ -5,9 +5,16 @@
 #include <QHBoxLayout>
 #include <QListWidget>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 namespace lunavox {
+namespace {
+
+constexpr int kMargin = 14;
+constexpr int kRowHeight = 26;
+
+}  // namespace
 
 DrumKitDialog::DrumKitDialog(DrumChoice& choice, QWidget* parent)
     : QDialog(parent),
@@ -24,6 +31,8 @@ DrumKitDialog::DrumKitDialog(DrumChoice& choice, QWidget* parent)
   drumcancel->setObjectName(QStringLiteral("drumcancel"));
   connect(drumok_, &QPushButton::clicked, this, [this] { drumok_click(); });
   connect(drumcancel, &QPushButton::clicked, this, [this] { reject(); });
+  connect(drumlist_, &QListWidget::itemSelectionChanged, this,
+          [this] { drumok_->setEnabled(selected() >= 0); });
   connect(drumlist_, &QListWidget::itemDoubleClicked, this, [this] { drumlist_dblclick(); });
 
   auto* buttons = new QHBoxLayout;
@@ -31,32 +40,45 @@ DrumKitDialog::DrumKitDialog(DrumChoice& choice, QWidget* parent)
   buttons->addWidget(drumcancel);
   buttons->addWidget(drumok_);
   auto* column = new QVBoxLayout(this);
+  const int margin = theme::scaled(kMargin);
+  column->setContentsMargins(margin, margin, margin, margin);
+  column->setSpacing(theme::scaled(12));
   column->addWidget(drumlist_);
   column->addLayout(buttons);
+  // All kits in sight, with the room of half a row below.
+  drumlist_->setMinimumHeight(theme::scaled(kRowHeight * DrumKits::kKits + kRowHeight / 2));
+  setMinimumWidth(theme::scaled(280));
 }
 
-void DrumKitDialog::open() {
+void DrumKitDialog::fill() {
   drumlist_->clear();
   for (const DrumKit& kit : choice_.kits().kits()) {
     auto* item = new QListWidgetItem(QString::fromStdString(kit.name), drumlist_);
     item->setData(Qt::UserRole, kit.program);
+    item->setSizeHint({0, theme::scaled(kRowHeight)});
   }
-  const int kit = choice_.current_kit();
-  if (kit >= 0) {
-    drumlist_->setCurrentRow(kit);
-  } else {
-    drumlist_->setCurrentIndex({});
-  }
+}
+
+void DrumKitDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (event->spontaneous()) return;
+  fill();
+  // An invalid index leaves no entry the current one, so that an arrow key begins with the first.
+  drumlist_->setCurrentIndex(drumlist_->model()->index(choice_.current_kit(), 0));
+  drumok_->setEnabled(selected() >= 0);
   drumlist_->setFocus();
-  QDialog::open();
+}
+
+int DrumKitDialog::selected() const {
+  return drumlist_->selectedItems().isEmpty() ? -1 : drumlist_->currentRow();
 }
 
 void DrumKitDialog::drumok_click() {
-  if (choice_.drumok_click(drumlist_->currentRow())) accept();
+  if (choice_.drumok_click(selected())) accept();
 }
 
 void DrumKitDialog::drumlist_dblclick() {
-  if (choice_.drumlist_dblclick(drumlist_->currentRow())) accept();
+  if (choice_.drumlist_dblclick(selected())) accept();
 }
 
 }  // namespace lunavox

@@ -9,15 +9,18 @@ class QPushButton;
 
 namespace lunavox {
 
-/// The drum kit dialog `Form4` on the screen. To be shown with open(), each time anew with the drum
-/// track's kit selected.
+/// The drum kit dialog `Form4` on the screen. Each time that it is shown, the drum track's kit is
+/// the selected one.
 class DrumKitDialog : public QDialog {
  public:
   explicit DrumKitDialog(DrumChoice& choice, QWidget* parent = nullptr);
 
-  void open() override;
+ protected:
+  void showEvent(QShowEvent* event) override;
 
  private:
+  void fill();
+  int selected() const;
   void drumok_click();
   void drumlist_dblclick();
 

@@ -3,83 +3,153 @@
 #include "app/ui/widgets/follow.h"
 #include "app/ui/widgets/number_field_box.h"
 #include "app/ui/widgets/theme.h"
-#include "files/ui/voice_table_model.h"
+#include "files/ui/column_frames.h"
+#include "files/ui/voice_table.h"
+#include "files/voice_families.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
-#include <QTableView>
+#include <QScreen>
+#include <QShowEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace lunavox {
+namespace {
+
+constexpr int kMargin = 14;
+constexpr int kColumnPixels = VoiceBanks::kColumnWidth / 15;  // of the grid, at its full width
+constexpr int kHeight = 640;
+// What a window's frame and the desktop's bars take of the screen.
+constexpr int kDesktop = 50;
+
+/// "GrandPno - program 0, bank 0, Piano"
+QString details_of(const VoiceBanks& banks, VoiceCell cell) {
+  if (!banks.has_voice(cell.program, cell.column)) return QStringLiteral("No voice");
+  return QStringLiteral("%1 \u2014 program %2, bank %3, %4")
+      .arg(QString::fromStdString(banks.name(cell.program, cell.column)))
+      .arg(cell.program)
+      .arg(banks.bank(cell.column, cell.program))
+      .arg(QString::fromUtf8(voice_family(cell.program)));
+}
+
+QPushButton* make_button(const char* name, const char* caption, QWidget* parent) {
+  auto* button = new QPushButton(QLatin1String(caption), parent);
+  button->setObjectName(QLatin1String(name));
+  return button;
+}
+
+}  // namespace
 
 InstrumentDialog::InstrumentDialog(VoiceChoice& choice, QWidget* parent)
-    : QDialog(parent), choice_(choice), instrulist_(new QTableView(this)) {
+    : QDialog(parent),
+      choice_(choice),
+      instrulist_(new VoiceTable(choice.banks(), this)),
+      details_(new QLabel(this)) {
   setObjectName(QStringLiteral("Form5"));
   setWindowTitle(QStringLiteral("Instrument"));
-  instrulist_->setObjectName(QStringLiteral("instrulist"));
-  instrulist_->setModel(new VoiceTableModel(choice.banks(), this));
-  instrulist_->setSelectionMode(QAbstractItemView::SingleSelection);
-  connect(instrulist_, &QTableView::pressed, this, [this](const QModelIndex& index) {
-    choice_.instrulist_mousedown({index.row(), index.column()});
-  });
-  connect(instrulist_, &QTableView::clicked, this, [this] { choice_.instrulist_mouseup(); });
+  instrulist_->set_handlers({[this](VoiceCell cell) { choice_.instrulist_mousedown(cell); },
+                             [this] { choice_.instrulist_mouseup(); },
+                             [this] { show_selected(); }});
+  details_->setObjectName(QStringLiteral("details"));
+  auto* hint =
+      new QLabel(QStringLiteral("Type a name to find a voice, hold Space to hear it"), this);
+  hint->setProperty("caption", true);
 
+  auto* below = new QHBoxLayout;
+  below->addWidget(details_, 1);
+  below->addWidget(hint);
+  auto* bottom = new QHBoxLayout;
+  bottom->addLayout(make_preview_row());
+  bottom->addStretch();
+  bottom->addLayout(make_buttons());
+  auto* column = new QVBoxLayout(this);
+  const int margin = theme::scaled(kMargin);
+  column->setContentsMargins(margin, margin, margin, margin);
+  column->setSpacing(0);
+  column->addWidget(new ColumnFrames(*instrulist_, this));
+  column->addWidget(instrulist_, 1);
+  column->addSpacing(theme::scaled(8));
+  column->addLayout(below);
+  column->addSpacing(theme::scaled(12));
+  column->addLayout(bottom);
+  resize_to_screen();
+}
+
+// A note that is held ends while there still is who can end it.
+InstrumentDialog::~InstrumentDialog() {
+  hide();
+}
+
+QBoxLayout* InstrumentDialog::make_preview_row() {
   auto* preview =
       new QCheckBox(QStringLiteral("Preview (play a note when an instrument is clicked)"), this);
   preview->setObjectName(QStringLiteral("preview"));
   auto* octave = new NumberFieldBox(
-      QStringLiteral("Text1"), QStringLiteral("oct"), choice.octave, 1,
-      [&choice](const std::string& text) { return choice.text1_change(text); }, this);
-  follow(choice.preview, this, [preview, octave](bool on) {
+      QStringLiteral("Text1"), QStringLiteral("oct"), choice_.octave, 1,
+      [this](const std::string& text) { return choice_.text1_change(text); }, this);
+  octave->on_done([this] { instrulist_->setFocus(); });
+  follow(choice_.preview, octave, [this, preview, octave](bool on) {
     preview->setChecked(on);
     octave->set_enabled(on);
+    octave->set_text_colour(theme::colour(choice_.octave_colour()));
   });
-  connect(preview, &QCheckBox::toggled, this, [&choice](bool on) { choice.preview = on; });
-  auto* instruok = new QPushButton(QStringLiteral("OK"), this);
-  instruok->setObjectName(QStringLiteral("instruok"));
+  connect(preview, &QCheckBox::toggled, this, [this](bool on) { choice_.preview = on; });
+
+  auto* row = new QHBoxLayout;
+  row->addWidget(preview);
+  row->addSpacing(theme::scaled(14));
+  row->addWidget(new QLabel(QStringLiteral("Octave:"), this));
+  row->addWidget(octave);
+  return row;
+}
+
+QBoxLayout* InstrumentDialog::make_buttons() {
+  QPushButton* instrucancel = make_button("instrucancel", "Cancel", this);
+  QPushButton* instruok = make_button("instruok", "OK", this);
   instruok->setDefault(true);
-  auto* instrucancel = new QPushButton(QStringLiteral("Cancel"), this);
-  instrucancel->setObjectName(QStringLiteral("instrucancel"));
-  connect(instruok, &QPushButton::clicked, this, [this] { instruok_click(); });
   connect(instrucancel, &QPushButton::clicked, this, [this] { reject(); });
-
-  auto* bottom = new QHBoxLayout;
-  bottom->addWidget(preview);
-  bottom->addWidget(new QLabel(QStringLiteral("Octave:"), this));
-  bottom->addWidget(octave);
-  bottom->addStretch();
-  bottom->addWidget(instrucancel);
-  bottom->addWidget(instruok);
-  auto* column = new QVBoxLayout(this);
-  column->addWidget(instrulist_);
-  column->addLayout(bottom);
-  resize(theme::scaled(780), theme::scaled(540));
+  connect(instruok, &QPushButton::clicked, this, [this] { instruok_click(); });
+  auto* row = new QHBoxLayout;
+  row->addWidget(instrucancel);
+  row->addWidget(instruok);
+  return row;
 }
 
-void InstrumentDialog::open() {
-  const VoiceCell voice = choice_.current_voice();
-  const QModelIndex index = instrulist_->model()->index(voice.program, voice.column);
-  instrulist_->setCurrentIndex(index);
+void InstrumentDialog::resize_to_screen() {
+  const int columns = VoiceBanks::kColumns * theme::scaled(kColumnPixels);
+  const int edges = instrulist_->verticalHeader()->sizeHint().width() + theme::scaled(14);
+  const QSize wish(columns + edges + 2 * theme::scaled(kMargin), theme::scaled(kHeight));
+  const QSize room = screen()->availableSize();
+  resize(std::min(wish.width(), room.width() - kDesktop / 2),
+         std::min(wish.height(), room.height() - kDesktop));
+}
+
+void InstrumentDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (event->spontaneous()) return;
+  instrulist_->select(choice_.current_voice());
   instrulist_->setFocus();
-  QDialog::open();
-  instrulist_->scrollTo(index, QAbstractItemView::PositionAtCenter);
 }
 
-void InstrumentDialog::done(int result) {
-  choice_.instrulist_mouseup();
-  QDialog::done(result);
-}
-
-VoiceCell InstrumentDialog::selected() const {
-  const QModelIndex index = instrulist_->currentIndex();
-  return {index.row(), index.column()};
+void InstrumentDialog::show_selected() {
+  const QString sought = QString::fromStdString(instrulist_->sought());
+  const QString details = details_of(choice_.banks(), instrulist_->selected());
+  if (sought.isEmpty()) {
+    details_->setText(details);
+  } else if (instrulist_->found()) {
+    details_->setText(QStringLiteral("Find \u201c%1\u201d: %2").arg(sought, details));
+  } else {
+    details_->setText(QStringLiteral("Find \u201c%1\u201d: no such voice").arg(sought));
+  }
 }
 
 void InstrumentDialog::instruok_click() {
-  if (choice_.instruok_click(selected())) accept();
+  if (choice_.instruok_click(instrulist_->selected())) accept();
 }
 
 }  // namespace lunavox

@@ -4,25 +4,33 @@
 
 #include <QDialog>
 
-class QTableView;
+class QBoxLayout;
+class QLabel;
 
 namespace lunavox {
 
-/// The instrument dialog `Form5` on the screen. To be shown with open(), each time anew with the
-/// current track's voice selected.
+class VoiceTable;
+
+/// The instrument dialog `Form5` on the screen. Each time that it is shown, the current track's
+/// voice is the selected one.
 class InstrumentDialog : public QDialog {
  public:
   explicit InstrumentDialog(VoiceChoice& choice, QWidget* parent = nullptr);
+  ~InstrumentDialog() override;
 
-  void open() override;
-  void done(int result) override;
+ protected:
+  void showEvent(QShowEvent* event) override;
 
  private:
-  VoiceCell selected() const;
+  QBoxLayout* make_preview_row();
+  QBoxLayout* make_buttons();
+  void resize_to_screen();
+  void show_selected();
   void instruok_click();
 
   VoiceChoice& choice_;
-  QTableView* instrulist_;
+  VoiceTable* instrulist_;
+  QLabel* details_;
 };
 
 }  // namespace lunavox

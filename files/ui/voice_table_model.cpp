@@ -1,7 +1,5 @@
 #include "files/ui/voice_table_model.h"
 
-#include "app/ui/widgets/theme.h"
-
 namespace lunavox {
 
 int VoiceTableModel::rowCount(const QModelIndex& parent) const {
@@ -14,13 +12,15 @@ int VoiceTableModel::columnCount(const QModelIndex& parent) const {
 
 QVariant VoiceTableModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  if (role == Qt::DisplayRole) {
-    return QString::fromStdString(banks_.name(index.row(), index.column()));
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:  // a long name of the user's own bank file may be cut short
+      return QString::fromStdString(banks_.name(index.row(), index.column()));
+    case kHasVoice:
+      return banks_.has_voice(index.row(), index.column());
+    default:
+      return {};
   }
-  if (role == Qt::ForegroundRole && !banks_.has_voice(index.row(), index.column())) {
-    return theme::kFaintText;
-  }
-  return {};
 }
 
 }  // namespace lunavox

@@ -10,6 +10,9 @@ namespace lunavox {
 /// column for each of its voices.
 class VoiceTableModel : public QAbstractTableModel {
  public:
+  /// Role of a bool: whether the cell holds a voice.
+  static constexpr int kHasVoice = Qt::UserRole;
+
   explicit VoiceTableModel(const VoiceBanks& banks, QObject* parent = nullptr)
       : QAbstractTableModel(parent), banks_(banks) {}
 

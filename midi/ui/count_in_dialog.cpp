@@ -5,16 +5,19 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace lunavox {
 
 CountInDialog::CountInDialog(QWidget* parent)
-    : QDialog(parent), recordstartin_(new QLabel(QStringLiteral("Record start in"), this)) {
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                          Qt::WindowStaysOnTopHint),
+      recordstartin_(new QLabel(QStringLiteral("Record start in"), this)) {
   setObjectName(QStringLiteral("Form9"));
   setWindowTitle(QStringLiteral("Realtime record"));
   setModal(false);
   recordstartin_->setObjectName(QStringLiteral("recordstartin"));
-  QFont large = theme::caption_font(9);
+  QFont large = theme::caption_font(11);
   large.setBold(true);
   recordstartin_->setFont(large);
   recordstartin_->setAlignment(Qt::AlignCenter);
@@ -22,12 +25,13 @@ CountInDialog::CountInDialog(QWidget* parent)
   cancel->setObjectName(QStringLiteral("Command1"));
   connect(cancel, &QPushButton::clicked, this, [this] { reject(); });
   auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(theme::scaled(28), theme::scaled(22), theme::scaled(28),
-                             theme::scaled(18));
-  column->setSpacing(theme::scaled(18));
+  column->addStretch();
   column->addWidget(recordstartin_);
+  column->addStretch();
   column->addWidget(cancel, 0, Qt::AlignCenter);
-  setFixedSize(theme::scaled(280), theme::scaled(132));
+  column->setContentsMargins(theme::scaled(24), theme::scaled(12), theme::scaled(24),
+                             theme::scaled(18));
+  setFixedSize(theme::scaled(300), theme::scaled(136));
 }
 
 void CountInDialog::set_hooks(std::function<void()> cancel, std::function<void()> hidden) {
@@ -37,8 +41,18 @@ void CountInDialog::set_hooks(std::function<void()> cancel, std::function<void()
 
 void CountInDialog::show(const std::string& caption) {
   set_caption(caption);
+  place();
   QDialog::show();
   raise();
+  activateWindow();
+}
+
+// The editor is made with this window before there is a main window that could be its parent.
+void CountInDialog::place() {
+  if (!window_) return;
+  winId();
+  windowHandle()->setTransientParent(window_->windowHandle());
+  move(window_->frameGeometry().center() - rect().center());
 }
 
 void CountInDialog::set_caption(const std::string& caption) {

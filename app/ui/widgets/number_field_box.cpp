@@ -5,6 +5,7 @@
 
 #include <QFontMetrics>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
 #include <QSignalBlocker>
@@ -49,6 +50,16 @@ NumberFieldBox::NumberFieldBox(const QString& name, const QString& bar_name, Num
 void NumberFieldBox::set_enabled(bool enabled) {
   text_->setEnabled(enabled);
   bar_->setEnabled(enabled);
+}
+
+void NumberFieldBox::set_text_colour(const QColor& colour) {
+  text_->setStyleSheet(QStringLiteral("QLineEdit { color: %1; }").arg(colour.name()));
+}
+
+void NumberFieldBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return;
+  if (event->key() == Qt::Key_Escape) show_field();
+  QWidget::keyPressEvent(event);
 }
 
 void NumberFieldBox::commit() {

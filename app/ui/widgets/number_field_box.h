@@ -31,6 +31,13 @@ class NumberFieldBox : public QWidget {
   /// Called when Enter was pressed in the box: where the keyboard focus goes then.
   void on_done(std::function<void()> done) { done_ = std::move(done); }
   void set_enabled(bool enabled);
+  /// Colour of the text, in the place of the theme's.
+  void set_text_colour(const QColor& colour);
+
+ protected:
+  /// Enter is the field's own, also in a dialog with a default button; Escape takes back what was
+  /// typed, and goes on to the dialog.
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void commit();
