@@ -101,9 +101,11 @@ QBoxLayout* InstrumentDialog::make_preview_row() {
   connect(preview, &QCheckBox::toggled, this, [this](bool on) { choice_.preview = on; });
 
   auto* row = new QHBoxLayout;
+  row->setSpacing(0);
   row->addWidget(preview);
   row->addSpacing(theme::scaled(14));
   row->addWidget(new QLabel(QStringLiteral("Octave:"), this));
+  row->addSpacing(theme::scaled(6));
   row->addWidget(octave);
   return row;
 }
@@ -115,6 +117,7 @@ QBoxLayout* InstrumentDialog::make_buttons() {
   connect(instrucancel, &QPushButton::clicked, this, [this] { reject(); });
   connect(instruok, &QPushButton::clicked, this, [this] { instruok_click(); });
   auto* row = new QHBoxLayout;
+  row->setSpacing(theme::scaled(8));
   row->addWidget(instrucancel);
   row->addWidget(instruok);
   return row;

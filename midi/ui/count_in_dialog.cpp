@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <QWindow>
 
 namespace lunavox {
 
@@ -41,18 +40,9 @@ void CountInDialog::set_hooks(std::function<void()> cancel, std::function<void()
 
 void CountInDialog::show(const std::string& caption) {
   set_caption(caption);
-  place();
   QDialog::show();
   raise();
   activateWindow();
-}
-
-// The editor is made with this window before there is a main window that could be its parent.
-void CountInDialog::place() {
-  if (!window_) return;
-  winId();
-  windowHandle()->setTransientParent(window_->windowHandle());
-  move(window_->frameGeometry().center() - rect().center());
 }
 
 void CountInDialog::set_caption(const std::string& caption) {

@@ -10,6 +10,11 @@
 #include <QVBoxLayout>
 
 namespace lunavox {
+namespace {
+
+constexpr int kRowHeight = 26;
+
+}  // namespace
 
 InputDeviceDialog::InputDeviceDialog(const std::vector<std::string>& devices, Dialogs& dialogs,
                                      QWidget* parent)
@@ -17,7 +22,11 @@ InputDeviceDialog::InputDeviceDialog(const std::vector<std::string>& devices, Di
   setObjectName(QStringLiteral("Form2"));
   setWindowTitle(QStringLiteral("Midi input"));
   list1_->setObjectName(QStringLiteral("List1"));
-  for (const std::string& name : devices) list1_->addItem(QString::fromStdString(name));
+  list1_->setFont(theme::caption_font(2));
+  for (const std::string& name : devices) {
+    auto* item = new QListWidgetItem(QString::fromStdString(name), list1_);
+    item->setSizeHint({0, theme::scaled(kRowHeight)});
+  }
   // No entry is the current one either, else the first press of an arrow key would pass the first.
   list1_->setCurrentIndex({});
   connect(list1_, &QListWidget::itemActivated, this, [this] { command1_click(); });

@@ -89,10 +89,11 @@ TEST_F(CountIn, StandsInTheMiddleOfItsWindow) {
   main_window.setGeometry(200, 100, 800, 500);
   main_window.show();
   test::wait_until_active(main_window);
-  dialog.set_window(&main_window);
+  dialog.setParent(&main_window, dialog.windowFlags());
   show();
   const QPoint off = dialog.geometry().center() - main_window.geometry().center();
   EXPECT_LT(off.manhattanLength(), 60);
+  dialog.setParent(nullptr);
 }
 
 }  // namespace
