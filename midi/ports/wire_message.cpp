@@ -39,9 +39,8 @@ WireMessage to_wire(std::uint32_t packed) {
   const auto status = static_cast<std::uint8_t>(packed);
   message.size = wire_length(status);
   if (message.size > 0) message.bytes[0] = status;
-  for (std::size_t i = 1; i < message.size; ++i) {
-    message.bytes[i] = static_cast<std::uint8_t>(packed >> (8 * i)) & 0x7F;
-  }
+  if (message.size > 1) message.bytes[1] = static_cast<std::uint8_t>(packed >> 8) & 0x7F;
+  if (message.size > 2) message.bytes[2] = static_cast<std::uint8_t>(packed >> 16) & 0x7F;
   return message;
 }
 

@@ -2,18 +2,18 @@
 a real MIDI transport. The server's dummy driver needs no sound card."""
 
 import contextlib
-import itertools
+import fcntl
 import os
 import re
 import shutil
 import signal
 import subprocess
+import tempfile
 import threading
 import time
 
 PATIENCE_SECONDS = 30
 TOOLS = ("jackd", "jack_lsp", "jack_connect", "jack_midi_dump", "jack_midiseq")
-_servers = itertools.count(1)
 
 
 def missing_tools():
@@ -72,12 +72,28 @@ class Process:
         self.process.stderr.close()
 
 
+def lock_server_name(stack):
+    """The first server name that no other test uses, locked as long as the stack lives.
+
+    JACK has room for eight names on a machine and forgets the name of a server that was killed only
+    when the next one takes it: names must come round again."""
+    for number in range(100):
+        name = f"lunavox-test-{os.getuid()}-{number}"
+        lock = stack.enter_context(open(os.path.join(tempfile.gettempdir(), name + ".lock"), "w"))
+        try:
+            fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+            return name
+        except BlockingIOError:
+            lock.close()
+    raise AssertionError("every name for a JACK server is taken")
+
+
 class JackServer(contextlib.ExitStack):
     """A running server; ends, with all its clients, at the end of the with block."""
 
     def __enter__(self):
         super().__enter__()
-        name = f"lunavox-test-{os.getpid()}-{next(_servers)}"
+        name = lock_server_name(self)
         self.environment = dict(os.environ, JACK_DEFAULT_SERVER=name, JACK_NO_START_SERVER="1",
                                 JACK_NO_AUDIO_RESERVATION="1")
         # The server of the test is the only way out: no sequencer, no sound service.

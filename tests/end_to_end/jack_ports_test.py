@@ -47,15 +47,14 @@ class JackPorts(unittest.TestCase):
         self.assertEqual(monitor.wait_for(1)[0], "b0 7b 00")
 
     def test_an_input_port_of_another_program_is_heard(self):
-        self.server.run("jack_midiseq", "seq", "24000", "0", "60", "8000", "12000", "63", "8000")
-        self.server.wait_for_port("seq:out")
+        self.start_sequencer()
         client = self.server.run(CLIENT, "receive", "seq:out", "4")
         self.assertEqual(client.wait(), 0, client.errors)
         self.assert_two_notes_over_and_over(client.lines)
 
     def test_others_connect_to_our_input(self):
         client = self.server.run(CLIENT, "receive", "virtual", "4")
-        self.server.run("jack_midiseq", "seq", "24000", "0", "60", "8000", "12000", "63", "8000")
+        self.start_sequencer()
         self.server.connect("seq:out", INPUT_PORT)
         self.assertEqual(client.wait(), 0, client.errors)
         self.assert_two_notes_over_and_over(client.lines)
@@ -77,6 +76,32 @@ class JackPorts(unittest.TestCase):
         self.assertEqual(client.lines, ["open", "The MIDI port is gone.",
                                         "The JACK server has stopped: nothing is heard any more."])
         self.assertEqual(client.errors, [])
+
+    def test_an_input_whose_sender_ends_tells_so(self):
+        sender = self.start_sequencer()
+        client = self.server.run(CLIENT, "receive-until-gone", "seq:out")
+        jack.wait_until(lambda: client.lines, "message")
+        sender.stop()
+        self.assertEqual(client.wait(), 0, client.errors)
+        self.assertEqual(client.lines[-1], 'The MIDI input "seq:out" is gone.')
+        self.assertEqual(client.errors, [])
+
+    def test_an_input_whose_server_dies_tells_so(self):
+        self.start_sequencer()
+        client = self.server.run(CLIENT, "receive-until-gone", "seq:out")
+        jack.wait_until(lambda: client.lines, "message")
+        self.server.die()
+        self.assertEqual(client.wait(), 0, client.errors)
+        self.assertEqual(client.lines[-1],
+                         "The JACK server has stopped: the MIDI input is silent.")
+        self.assertEqual(client.errors, [])
+
+    def start_sequencer(self):
+        """Starts a client of JACK's own that plays two notes over and over."""
+        sequencer = self.server.run("jack_midiseq", "seq", "24000", "0", "60", "8000",
+                                    "12000", "63", "8000")
+        self.server.wait_for_port("seq:out")
+        return sequencer
 
     def assert_two_notes_over_and_over(self, lines):
         """The sequencer may be anywhere in its round when it is first heard."""

@@ -4,6 +4,7 @@
 //                                            message, or the bytes of a System Exclusive message
 //   ports_client send-until-gone OUTPUT      sends until the device tells an error, prints it
 //   ports_client receive INPUT COUNT         prints COUNT messages as they arrive
+//   ports_client receive-until-gone INPUT    prints messages until the device tells why it is gone
 #include "midi/device_selection.h"
 #include "midi/ports/system_input_devices.h"
 #include "midi/ports/system_output_devices.h"
@@ -95,6 +96,19 @@ int receive(const std::string& name, int count) {
   return 0;
 }
 
+int receive_until_gone(const std::string& name) {
+  SystemInputDevices devices;
+  const auto device = devices.open(device_of(devices, name), [](std::uint32_t packed) {
+    std::printf("%08X\n", packed);
+    std::fflush(stdout);
+  });
+  if (!device) throw std::runtime_error(devices.open_error());
+  device->start();
+  while (device->status().empty()) std::this_thread::yield();
+  std::puts(device->status().c_str());
+  return 0;
+}
+
 int run(const std::vector<std::string>& arguments) {
   SystemOutputDevices outputs;
   SystemInputDevices inputs;
@@ -107,6 +121,9 @@ int run(const std::vector<std::string>& arguments) {
   if (command == "send-until-gone" && arguments.size() == 2) return send_until_gone(arguments[1]);
   if (command == "receive" && arguments.size() == 3) {
     return receive(arguments[1], std::stoi(arguments[2]));
+  }
+  if (command == "receive-until-gone" && arguments.size() == 2) {
+    return receive_until_gone(arguments[1]);
   }
   throw std::runtime_error("see the head of ports_client.cpp");
 }
