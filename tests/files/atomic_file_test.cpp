@@ -6,6 +6,8 @@
 #include <csignal>
 
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -200,6 +202,30 @@ TEST(AtomicFile, AFullDiskKeepsTheOldFileAndLeavesNothingBehind) {
   EXPECT_EQ(result, 0);
   EXPECT_EQ(folder.read("song.lvx"), "old");
   EXPECT_EQ(folder.entries(), 1);
+}
+
+/// Mounts a file system of 64 KB in memory, for this process alone.
+bool mount_small_disk(const std::string& folder) {
+  if (::unshare(CLONE_NEWNS) != 0 && ::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
+  ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr);
+  return ::mount("tmpfs", folder.c_str(), "tmpfs", 0, "size=64k") == 0;
+}
+
+TEST(AtomicFile, ADiskThatFillsUpKeepsTheOldFile) {
+  const TempFolder folder;
+  constexpr int kNoMount = 2;
+  const int result = in_child([&] {
+    if (!mount_small_disk(folder.path().string())) return kNoMount;
+    const std::string path = folder.file("song.lvx");
+    save(path, "old");
+    if (error_of_saving(path, std::string(100000, 'x')) != RuntimeError::kDiskFull) return 3;
+    if (folder.read("song.lvx") != "old" || folder.entries() != 1) return 4;
+    // What was half written no longer takes up room.
+    save(path, std::string(30000, 'y'));
+    return folder.read("song.lvx").size() == 30000 ? 0 : 5;
+  });
+  if (result == kNoMount) GTEST_SKIP() << "no file system may be mounted here";
+  EXPECT_EQ(result, 0);
 }
 
 TEST(AtomicFile, TwoSavesOfOneFileDoNotDisturbEachOther) {
