@@ -21,10 +21,12 @@ int qt_alignment(Alignment alignment) {
 
 }  // namespace
 
-CellGridModel::CellGridModel(const CellGrid& grid, HeaderRow header_row, QObject* parent)
+CellGridModel::CellGridModel(const CellGrid& grid, HeaderRow header_row, int columns_per_track,
+                             QObject* parent)
     : QAbstractTableModel(parent),
       grid_(grid),
       header_row_(header_row),
+      columns_per_track_(columns_per_track),
       rows_(grid.rows() - first_row()),
       columns_(grid.columns() - 1) {}
 
@@ -74,7 +76,8 @@ QVariant CellGridModel::data(const QModelIndex& index, int role) const {
 QString CellGridModel::spoken_place(const QModelIndex& index) const {
   const QString row = headerData(index.row(), Qt::Vertical, Qt::DisplayRole).toString();
   const QString column = headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString();
-  return QStringLiteral("%1, %2").arg(row, column);
+  const int track = index.column() / columns_per_track_ + 1;
+  return QStringLiteral("track %1, %2, %3").arg(QString::number(track), row, column);
 }
 
 QVariant CellGridModel::headerData(int section, Qt::Orientation orientation, int role) const {

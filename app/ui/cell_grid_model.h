@@ -16,7 +16,9 @@ enum class HeaderRow {
 /// one. Changes of the grid arrive here through the view, which gathers them.
 class CellGridModel : public QAbstractTableModel {
  public:
-  CellGridModel(const CellGrid& grid, HeaderRow header_row, QObject* parent = nullptr);
+  /// @param columns_per_track  after so many columns a track ends
+  CellGridModel(const CellGrid& grid, HeaderRow header_row, int columns_per_track,
+                QObject* parent = nullptr);
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -43,6 +45,7 @@ class CellGridModel : public QAbstractTableModel {
 
   const CellGrid& grid_;
   HeaderRow header_row_;
+  int columns_per_track_;
   int rows_ = 0;
   int columns_ = 0;
 };

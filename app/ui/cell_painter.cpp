@@ -12,7 +12,7 @@ namespace {
 
 // More different texts than a song shows at once; a file with odd texts must not fill the memory.
 constexpr std::size_t kLayoutsKept = 1024;
-constexpr qreal kSideMargin = 1.5;
+constexpr qreal kSideMargin = 2.5;
 constexpr int kNarrowest = 70;  // per cent of the face's own width
 
 QColor blend(const QColor& ground, const QColor& over, qreal share) {

@@ -3,19 +3,15 @@
 #include "app/ui/grid_header.h"
 #include "app/ui/widgets/theme.h"
 
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QWheelEvent>
 #include <algorithm>
 
 namespace lunavox {
 namespace {
 
 constexpr int kDragScrollMs = 40;
-constexpr int kWheelRows = 3;
 
 /// The grid's fixed cell at row 0, column 0, where the two headers meet.
 class CornerCell : public QWidget {
@@ -39,7 +35,7 @@ class CornerCell : public QWidget {
 GridView::GridView(CellGrid& grid, HeaderRow header_row, int columns_per_track, QWidget* parent)
     : QTableView(parent),
       grid_(grid),
-      model_(new CellGridModel(grid, header_row, this)),
+      model_(new CellGridModel(grid, header_row, columns_per_track, this)),
       columns_header_(new GridHeader(*model_, Qt::Horizontal, columns_per_track, this)),
       rows_header_(new GridHeader(*model_, Qt::Vertical, columns_per_track, this)),
       corner_(new CornerCell(grid, this)),
@@ -302,122 +298,6 @@ void GridView::paint_cell(QPainter& painter, CellPosition at) {
   around.switch_cell = is_switch_column(at.column);
   painter_.paint(painter, cell_rect(at), grid_.cell(at.row, at.column), around);
   ++painted_cells_;
-}
-
-// What the user does.
-
-void GridView::move_to(CellPosition position, bool extend) {
-  if (extend && selects()) {
-    grid_.set_selection_end(position.row, position.column);
-    bring_into_view(position);
-  } else {
-    grid_.set_cursor(position.row, position.column);
-    bring_into_view(grid_.cursor());
-  }
-}
-
-bool GridView::navigate(const QKeyEvent& event) {
-  const bool extend = event.modifiers().testFlag(Qt::ShiftModifier);
-  const int first_row = model_->first_row();
-  const int last_row = grid_.rows() - 1;
-  CellPosition to = extend ? grid_.selection_end() : grid_.cursor();
-  switch (event.key()) {
-    case Qt::Key_Up:
-      to.row -= 1;
-      break;
-    case Qt::Key_Down:
-      to.row += 1;
-      break;
-    case Qt::Key_Left:
-      to.column -= 1;
-      break;
-    case Qt::Key_Right:
-      to.column += 1;
-      break;
-    case Qt::Key_PageUp:
-      to.row -= visible_rows();
-      break;
-    case Qt::Key_PageDown:
-      to.row += visible_rows();
-      break;
-    case Qt::Key_Home:
-      to.row = first_row;
-      break;
-    case Qt::Key_End:
-      to.row = last_row;
-      break;
-    default:
-      return false;
-  }
-  if (grid_.columns() < 2) return true;
-  to.row = std::clamp(to.row, first_row, last_row);
-  to.column = std::clamp(to.column, 1, grid_.columns() - 1);
-  move_to(to, extend);
-  return true;
-}
-
-void GridView::keyPressEvent(QKeyEvent* event) {
-  if (navigate(*event)) {
-    event->accept();
-    return;
-  }
-  event->ignore();
-}
-
-void GridView::keyReleaseEvent(QKeyEvent* event) {
-  event->ignore();
-}
-
-void GridView::mousePressEvent(QMouseEvent* event) {
-  event->accept();
-  if (event->button() != Qt::LeftButton || grid_.columns() < 2) return;
-  if (rowAt(event->pos().y()) < 0 || columnAt(event->pos().x()) < 0) return;
-  dragging_ = selects();
-  move_to(nearest_position(event->pos()), event->modifiers().testFlag(Qt::ShiftModifier));
-  cell_pressed();
-}
-
-void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
-  mousePressEvent(event);
-}
-
-void GridView::mouseMoveEvent(QMouseEvent* event) {
-  event->accept();
-  if (!dragging_ || !event->buttons().testFlag(Qt::LeftButton)) return;
-  drag_point_ = event->pos();
-  drag_on();
-  const bool outside = !viewport()->rect().contains(event->pos());
-  if (outside && !drag_timer_.isActive()) drag_timer_.start();
-  if (!outside) drag_timer_.stop();
-}
-
-void GridView::drag_on() {
-  const CellPosition to = nearest_position(drag_point_);
-  if (to != grid_.selection_end()) grid_.set_selection_end(to.row, to.column);
-}
-
-void GridView::mouseReleaseEvent(QMouseEvent* event) {
-  event->accept();
-  dragging_ = false;
-  drag_timer_.stop();
-}
-
-void GridView::wheelEvent(QWheelEvent* event) {
-  event->accept();
-  wheel_rest_ += event->angleDelta().y();
-  const int steps = wheel_rest_ / QWheelEvent::DefaultDeltasPerStep;
-  wheel_rest_ -= steps * QWheelEvent::DefaultDeltasPerStep;
-  verticalScrollBar()->setValue(verticalScrollBar()->value() - steps * kWheelRows);
-}
-
-void GridView::focusInEvent(QFocusEvent* event) {
-  QTableView::focusInEvent(event);
-  refresh_cursor();
-}
-
-void GridView::focusOutEvent(QFocusEvent* event) {
-  QTableView::focusOutEvent(event);
-  refresh_cursor();
 }
 
 }  // namespace lunavox

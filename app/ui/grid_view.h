@@ -85,6 +85,8 @@ class GridView : public QTableView, private CellGridObserver {
   void selection_changed() override;
   void scrolled() override;
 
+  /// Where a key moves a position, perhaps out of the grid; false for a key that moves nothing.
+  bool step(int key, CellPosition& position) const;
   void move_to(CellPosition position, bool extend);
   void drag_on();
   void apply_widths();

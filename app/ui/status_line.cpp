@@ -4,6 +4,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 
 namespace lunavox {
 namespace {
@@ -15,12 +16,26 @@ struct SectionPlan {
 };
 
 constexpr std::array<SectionPlan, StatusLine::kSections> kPlan = {{
-    {"statusfile", 3, 0},
-    {"statusoutput", 5, 0},
-    {"statusline", 0, 158},
-    {"statuscell", 0, 196},
+    {"statusfile", 1, 0},
+    {"statusoutput", 3, 0},
+    {"statusline", 0, 146},
+    {"statuscell", 0, 186},
     {"statusoctave", 0, 62},
 }};
+
+/// A label whose text ends in dots where it does not fit.
+class ElidedLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+  }
+};
 
 void set_warning(QLabel& label, bool warning) {
   QPalette palette = label.palette();
@@ -36,7 +51,7 @@ StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
   row->setContentsMargins(theme::scaled(8), 0, theme::scaled(8), 0);
   row->setSpacing(theme::scaled(12));
   for (std::size_t i = 0; i < kPlan.size(); ++i) {
-    auto* label = new QLabel(this);
+    auto* label = new ElidedLabel(this);
     label->setObjectName(QLatin1String(kPlan[i].name));
     label->setFont(theme::caption_font());
     label->setTextFormat(Qt::PlainText);

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QIcon>
 #include <QScreen>
 #include <QUrl>
 #include <algorithm>
@@ -18,6 +19,12 @@ namespace {
 Screen primary_screen() {
   const QSize size = QGuiApplication::primaryScreen()->size();
   return {size.width(), size.height()};
+}
+
+/// The installed icon, or the one in the data folder of a build tree.
+QIcon program_icon(const std::filesystem::path& data) {
+  const QIcon built(QString::fromStdString((data / "icon" / "lunavox-128.png").string()));
+  return QIcon::fromTheme(QStringLiteral("lunavox"), built);
 }
 
 }  // namespace
@@ -51,6 +58,7 @@ WindowShell::WindowShell(const Machine& machine, const StartUp::Wishes& wishes, 
   instrument_ = std::make_unique<InstrumentDialog>(e.voice_choice, window_.get());
   drum_kit_ = std::make_unique<DrumKitDialog>(e.drum_choice, window_.get());
   count_in_->setParent(window_.get(), Qt::Dialog);
+  window_->setWindowIcon(program_icon(folders_.data));
   tie();
 }
 
@@ -125,8 +133,11 @@ void WindowShell::tie_files() {
     recovery_.end();
     end(0);
   };
-  const auto open_document = [](const std::filesystem::path& document) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(document.string())));
+  const auto open_document = [this](const std::filesystem::path& document) {
+    const QUrl url = QUrl::fromLocalFile(QString::fromStdString(document.string()));
+    if (!QDesktopServices::openUrl(url)) {
+      dialogs_.error("No program on this desktop opens " + document.string(), "Error");
+    }
   };
   const auto song_changed = [this] {
     editor_->voice_name.refresh();

@@ -56,11 +56,11 @@ TEST_F(GridViewTest, ShowsTheGridsTextsByRowAndColumn) {
   EXPECT_EQ(model.columnCount(), 27);
 }
 
-TEST_F(GridViewTest, AScreenReaderHearsTheCellItsLineAndItsColumn) {
+TEST_F(GridViewTest, AScreenReaderHearsTheCellItsTrackItsLineAndItsColumn) {
   grid.set_text(17, 10, "stop");
   const QModelIndex index = view.model()->index(16, 9);
   EXPECT_EQ(index.data(Qt::AccessibleTextRole).toString().toStdString(), "stop");
-  EXPECT_EQ(index.data(Qt::AccessibleDescriptionRole).toString().toStdString(), "10, # 1");
+  EXPECT_EQ(index.data(Qt::AccessibleDescriptionRole).toString().toStdString(), "track 2, 10, # 1");
   grid.set_cursor(17, 10);
   EXPECT_EQ(view.currentIndex(), index);
 }
