@@ -16,6 +16,24 @@ std::string value_text(std::int16_t value) {
   return plain_number(static_cast<long long>(value));
 }
 
+/// Keeps the lines in view where they are while a curve is walked through: the cursor's way along
+/// it is none of the user's. Whoever plays a song may have the view follow it.
+class StayingView {
+ public:
+  StayingView(CellGrid& grid, const Flags& flags)
+      : grid_(grid), stays_(!flags.playing), top_row_(grid.top_row()) {}
+  ~StayingView() {
+    if (stays_) grid_.set_top_row(top_row_);
+  }
+  StayingView(const StayingView&) = delete;
+  StayingView& operator=(const StayingView&) = delete;
+
+ private:
+  CellGrid& grid_;
+  bool stays_;
+  int top_row_;
+};
+
 }  // namespace
 
 Curves::Curves(Song& song, Flags& flags, Dialogs& dialogs, ProgressBox& progress)
@@ -99,6 +117,7 @@ void Curves::interpolate(int effect, bool shown) {
   const CurveChange change =
       curve_change(song_.values.column(track, effect), song_.key_attributes.column(track, effect),
                    song_.tracks.row(), song_.last_row());
+  const StayingView view(song_.tracks, flags_);
   const LongOperation operation(progress_, song_.tracks, "interpolating effects...",
                                 change.length());
   fill(change.before, effect, shown);
@@ -120,6 +139,7 @@ void Curves::fill(const Segment& segment, int effect, bool shown) {
 void Curves::showeffect() {
   song_.actualtrack();
   const int column = effect_column_of(song_.current_track);
+  const StayingView view(song_.tracks, flags_);
   const LongOperation operation(progress_, song_.tracks, "showing effect...", song_.tracks.rows());
   // The cell under the cursor is left before it is written over.
   song_.tracks.set_cursor(1, column);
@@ -128,6 +148,7 @@ void Curves::showeffect() {
 }
 
 void Curves::addfxs(int first_row) {
+  const StayingView view(song_.tracks, flags_);
   const LongOperation operation(progress_, song_.tracks, "showing effect...", song_.tracks.rows());
   for (int track = 1; track <= song_.track_count; ++track) {
     song_.tracks.set_column(effect_column_of(track));

@@ -163,7 +163,8 @@ void MainWindow::cells_changed(const CellRegion& region) {
   const CellPosition cursor = model_.song.tracks.cursor();
   const bool touches = cursor.row >= region.first_row && cursor.row <= region.last_row &&
                        cursor.column >= region.first_column && cursor.column <= region.last_column;
-  if (touches) show_cursor();
+  const bool beats = region.first_column == 0;
+  if (touches || beats) show_cursor();
 }
 
 void MainWindow::show_cursor() {

@@ -79,8 +79,9 @@ class MainWindow : public QMainWindow, private CellGridObserver {
   void show_devices();
   void restore_place();
 
-  // The status line follows the cursor and the cell under it.
+  // The status line follows the cursor, the cell under it and the song around it.
   void cells_changed(const CellRegion& region) override;
+  void shape_changed() override { show_cursor(); }
   void selection_changed() override { show_cursor(); }
 
   WindowModel model_;

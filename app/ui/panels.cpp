@@ -92,7 +92,7 @@ XgPanel::XgPanel(Song& song, XgEffects& effects, const std::function<void()>& do
       {"variation", XgList::kVariation, song.variation, &XgEffects::variation_click},
   };
   for (const List& list : lists) {
-    QComboBox* box = make_list(list.name, 92, *this);
+    QComboBox* box = make_list(list.name, 104, *this);
     for (const std::string& name : xg_names(list.list)) box->addItem(QString::fromStdString(name));
     follow(list.choice, box, [box](int item) { box->setCurrentIndex(item); });
     connect(box, &QComboBox::activated, this, [&effects, done, click = list.click](int item) {

@@ -71,7 +71,7 @@ QLineEdit:focus { border-color: #ffb454; }
 QLineEdit:disabled { color: #585f6d; border-color: #262b34; }
 QLineEdit[readOnly="true"] { border-color: #262b34; }
 QComboBox { background: #0f1115; color: #dadde3; border: 1px solid #30353f; border-radius: 3px;
-  padding: 1px 4px 1px 6px; }
+  padding: 1px 4px 1px 6px; combobox-popup: 0; }
 QComboBox:focus, QComboBox:on { border-color: #ffb454; }
 QComboBox::drop-down { width: 16px; border: none; }
 QComboBox::down-arrow { image: url(:/lunavox/down.svg); width: 9px; height: 6px; }

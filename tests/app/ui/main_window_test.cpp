@@ -280,6 +280,14 @@ TEST_F(MainWindowTest, TheStatusLineTellsOfTheSongTheDeviceAndTheCursor) {
   EXPECT_EQ(bench.find<QLabel>("statusoctave").text().toStdString(), "Octave +2");
 }
 
+TEST_F(MainWindowTest, TheStatusLineKeepsUpWithTheSongsLengthAndBeat) {
+  editor.song.tracks.set_cursor(10, 2);
+  editor.song.tracks.set_rows(201);
+  EXPECT_EQ(bench.find<QLabel>("statusline").text().toStdString(), "Line 9 of 200   Beat 3");
+  enter("number", "2");
+  EXPECT_EQ(bench.find<QLabel>("statusline").text().toStdString(), "Line 9 of 200   Beat 5");
+}
+
 TEST_F(MainWindowTest, TheVoiceFieldFollowsTheCurrentTrack) {
   trigger("menuaddinstru");
   EXPECT_EQ(bench.find<QLabel>("voicename").text().toStdString(), "GrandPno");
