@@ -14,6 +14,7 @@ constexpr int kVoices = 256;
 /// Above this many bytes, samples are only read for the presets in use: opening must not take long.
 constexpr std::uintmax_t kLargeSoundFont = 32u << 20;
 
+constexpr int kAllGroups = -1;    // of effect units
 constexpr int kPercussion = 128;  // the bank in which SoundFonts keep drum kits
 
 bool is_large(const std::filesystem::path& path) {
@@ -125,6 +126,23 @@ void Synthesiser::play_sysex(const SysExBytes& data) {
   const char* body = reinterpret_cast<const char*>(data.data() + 1);
   fluid_synth_sysex(synth_.get(), body, static_cast<int>(data.size()) - 2, nullptr, nullptr,
                     nullptr, 0);
+  // The library leaves the effect types of XG to us.
+  if (const auto reverb = reverb_chosen_by(data)) set_reverb(*reverb);
+  if (const auto chorus = chorus_chosen_by(data)) set_chorus(*chorus);
+}
+
+void Synthesiser::set_reverb(const ReverbShape& shape) {
+  fluid_synth_set_reverb_group_roomsize(synth_.get(), kAllGroups, shape.room_size);
+  fluid_synth_set_reverb_group_damp(synth_.get(), kAllGroups, shape.damping);
+  fluid_synth_set_reverb_group_width(synth_.get(), kAllGroups, shape.width);
+  fluid_synth_set_reverb_group_level(synth_.get(), kAllGroups, shape.level);
+}
+
+void Synthesiser::set_chorus(const ChorusShape& shape) {
+  fluid_synth_set_chorus_group_nr(synth_.get(), kAllGroups, shape.voices);
+  fluid_synth_set_chorus_group_level(synth_.get(), kAllGroups, shape.level);
+  fluid_synth_set_chorus_group_speed(synth_.get(), kAllGroups, shape.speed_hz);
+  fluid_synth_set_chorus_group_depth(synth_.get(), kAllGroups, shape.depth_ms);
 }
 
 void Synthesiser::silence() {

@@ -2,6 +2,7 @@
 
 #include "midi/devices.h"
 #include "midi/ports/wire_message.h"
+#include "midi/ports/xg_system_effects.h"
 
 #include <filesystem>
 #include <memory>
@@ -12,9 +13,9 @@
 
 namespace lunavox {
 
-/// The built-in synthesiser: a General MIDI module that understands XG's System On and bank
-/// selects. It makes sound for an audio driver or for render(); messages may come from another
-/// thread than the sound is drawn by.
+/// The built-in synthesiser: a General MIDI module that understands XG's System On, bank
+/// selects and choices of reverb and chorus. It makes sound for an audio driver or for render();
+/// messages may come from another thread than the sound is drawn by.
 class Synthesiser {
  public:
   /// Loads a SoundFont, or the machine's own for an empty path.
@@ -53,6 +54,8 @@ class Synthesiser {
   explicit Synthesiser(int sample_rate);
   bool load_soundfont(const std::filesystem::path& path);
   void let_controllers_shape_sounds();
+  void set_reverb(const ReverbShape& shape);
+  void set_chorus(const ChorusShape& shape);
 
   std::unique_ptr<fluid_settings_t, DeleteSettings> settings_;
   std::unique_ptr<fluid_synth_t, DeleteSynth> synth_;

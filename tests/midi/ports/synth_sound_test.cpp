@@ -184,6 +184,22 @@ TEST_F(SynthSound, ASlowAttackComesLater) {
   EXPECT_NEAR(first_moment(), usual, 0.1 * usual);
 }
 
+TEST_F(SynthSound, ATunnelRingsLongerThanAWhiteRoom) {
+  const auto echo_in = [this](std::uint8_t type) {
+    const SysExBytes reverb = {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01, 0x00, type, 0x00, 0xF7};
+    device_->prepare_header(reverb);
+    device_->long_message(reverb);
+    send({0x13C0, 0x7F5BB0, 0x643C90});
+    loudness(500);
+    send({0x0078B0});
+    loudness(500);
+    return loudness(500);
+  };
+  const double white_room = echo_in(0x10);
+  loudness(5000);
+  EXPECT_GT(echo_in(0x11), 3 * white_room);
+}
+
 TEST(SynthSoundFont, ABrokenSoundFontIsOneSentence) {
   if (!std::filesystem::exists(kSoundFont)) GTEST_SKIP() << kSoundFont << " is not installed";
   const TestFolder folder;
