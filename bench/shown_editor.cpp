@@ -55,7 +55,7 @@ ProgramFolders folders_in(const ScratchFolder& scratch) {
 ShownEditor::ShownEditor(OutputDevices& outputs, int lines)
     : shell_({outputs, inputs_, clock_, folders_in(folder_)}, {{}, "0", LayoutSet::kQwerty},
              &dialogs_) {
-  shell_.start();
+  shell_.start({});
   shell_.window().setWindowState(Qt::WindowNoState);
   shell_.window().setGeometry(0, 0, kWidth, kHeight);
   fill_song(editor(), lines);
