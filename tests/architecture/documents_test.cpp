@@ -52,11 +52,11 @@ TEST(Documents, TheManPageAndTheManualHaveTheOptionsOfTheProgram) {
 
 TEST(Documents, NameOnlyFilesThatAreThere) {
   const std::regex path(
-      "`((?:app|cmake|data|docs|edit|examples|files|grid|midi|packaging|scripts|"
+      "`((?:app|bench|cmake|data|docs|edit|examples|files|fuzz|grid|midi|packaging|scripts|"
       "skin|tests)/[\\w/.-]*)[`( ]");
   const std::regex link(R"(\]\(([\w/.-]+)\))");
   for (const char* document : {"README.md", "CONTRIBUTING.md", "CHANGELOG.md",
-                               "docs/architecture.md", "examples/README.md"}) {
+                               "docs/architecture.md", "docs/fuzzing.md", "examples/README.md"}) {
     const std::string text = read(document);
     for (const std::string& named : all_matches(text, path)) {
       EXPECT_TRUE(fs::exists(kTop / named)) << document << " names " << named;
