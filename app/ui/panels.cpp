@@ -15,6 +15,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 namespace lunavox {
 namespace {
@@ -30,6 +31,7 @@ QComboBox* make_list(const char* name, int width, Panel& panel) {
   list->setFont(theme::caption_font());
   list->setFixedSize(theme::scaled(width), theme::scaled(24));
   list->setMaxVisibleItems(24);
+  list->setItemDelegate(new QStyledItemDelegate(list));  // the default one knows no style sheet
   return list;
 }
 

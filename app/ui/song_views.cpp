@@ -2,6 +2,7 @@
 
 #include "app/ui/note_keyboard.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -36,6 +37,14 @@ void TracksView::keyReleaseEvent(QKeyEvent* event) {
 void TracksView::mouseReleaseEvent(QMouseEvent* event) {
   GridView::mouseReleaseEvent(event);
   if (event->button() == Qt::RightButton && popup_) popup_(event->globalPosition().toPoint());
+}
+
+// The menu key opens the menu at the cursor; the mouse's button has opened it by then.
+void TracksView::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  const bool by_key = event->reason() == QContextMenuEvent::Keyboard;
+  const QPoint at = cell_rect(grid().cursor()).center();
+  if (by_key && popup_) popup_(viewport()->mapToGlobal(at));
 }
 
 void TracksView::focusOutEvent(QFocusEvent* event) {

@@ -76,7 +76,8 @@ QComboBox:focus, QComboBox:on { border-color: #ffb454; }
 QComboBox::drop-down { width: 16px; border: none; }
 QComboBox::down-arrow { image: url(:/lunavox/down.svg); width: 9px; height: 6px; }
 QComboBox QAbstractItemView { background: #1b1e25; border: 1px solid #30353f; outline: none;
-  selection-background-color: #2b303b; selection-color: #ffffff; }
+  selection-background-color: #3a404c; selection-color: #ffffff; }
+QComboBox QAbstractItemView::item { height: 22px; padding: 0 6px; }
 QCheckBox { color: #c3c8d1; spacing: 6px; background: transparent; }
 QCheckBox:disabled { color: #585f6d; }
 QCheckBox::indicator { width: 11px; height: 11px; border: 1px solid #4a505d; border-radius: 3px;

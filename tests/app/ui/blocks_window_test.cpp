@@ -2,6 +2,7 @@
 #include "window_bench.h"
 
 #include <QAction>
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -219,6 +220,15 @@ TEST_F(BlocksWindowTest, TheWholeOfALongSongIsTransposedCopiedAndCut) {
   EXPECT_EQ(editor.song.tracks.text(3000, 8), "G  0");
   EXPECT_EQ(cursor(), (CellPosition{1, 1}));
   EXPECT_EQ(editor.song.tracks.top_row(), 1) << "the view does not run along";
+}
+
+TEST_F(BlocksWindowTest, TheMenuKeyOpensTheMenuAtTheCursor) {
+  click({3, 10});
+  QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+  QCoreApplication::sendEvent(&tracks, &event);
+  EXPECT_TRUE(menu.isVisible());
+  EXPECT_EQ(menu.pos(), tracks.viewport()->mapToGlobal(centre({3, 10})));
+  menu.close();
 }
 
 TEST_F(BlocksWindowTest, TheEditMenuOffersWhatCanDoSomething) {

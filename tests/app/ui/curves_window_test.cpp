@@ -279,6 +279,13 @@ TEST_F(XgListsTest, EachListSendsItsTypeAndMarksTheSong) {
   }
 }
 
+TEST_F(XgListsTest, EveryNameFitsItsList) {
+  for (const char* name : {"reverb", "chorus", "variation"}) {
+    QComboBox& list = bench.find<QComboBox>(name);
+    EXPECT_GE(list.width(), list.sizeHint().width()) << name;
+  }
+}
+
 TEST_F(XgListsTest, TheFirstEntryIsSentWhenItIsChosenThoughItStoodThereAlready) {
   choose("reverb", 0);
   EXPECT_THAT(bench.outputs.sysexes(),
