@@ -12,9 +12,7 @@ constexpr int kGap = 4;
 }  // namespace
 
 PanelStrip::PanelStrip(QWidget* parent) : QWidget(parent) {
-  QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  policy.setHeightForWidth(true);
-  setSizePolicy(policy);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 void PanelStrip::add(QWidget* panel) {
@@ -58,13 +56,8 @@ std::vector<QRect> PanelStrip::rows_within(int width) const {
   return places;
 }
 
-int PanelStrip::heightForWidth(int width) const {
-  const std::vector<QRect> all = places(width);
-  return all.empty() ? 0 : all.back().bottom() + 1 + theme::scaled(kGap);
-}
-
-QSize PanelStrip::sizeHint() const {
-  return {theme::scaled(800), heightForWidth(theme::scaled(800))};
+int PanelStrip::height_for(const std::vector<QRect>& places) const {
+  return places.empty() ? 0 : places.back().bottom() + 1 + theme::scaled(kGap);
 }
 
 QSize PanelStrip::minimumSizeHint() const {
@@ -77,6 +70,8 @@ void PanelStrip::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   const std::vector<QRect> all = places(width());
   for (std::size_t i = 0; i < panels_.size(); ++i) panels_[i]->setGeometry(all[i]);
+  // The grids below make room.
+  setFixedHeight(height_for(all));
 }
 
 }  // namespace lunavox

@@ -12,9 +12,6 @@ class PanelStrip : public QWidget {
 
   void add(QWidget* panel);
 
-  bool hasHeightForWidth() const override { return true; }
-  int heightForWidth(int width) const override;
-  QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
  protected:
@@ -26,6 +23,7 @@ class PanelStrip : public QWidget {
   /// As they come, each row filled before the next begins.
   std::vector<QRect> rows_within(int width) const;
   int panel_height() const;
+  int height_for(const std::vector<QRect>& places) const;
 
   std::vector<QWidget*> panels_;
 };

@@ -17,6 +17,7 @@ namespace {
 // gains.
 constexpr int kLabelWidth = 78;
 constexpr int kNarrowestTrack = 268;
+constexpr int kFewestLines = 3;
 constexpr int kBarThickness = 12;
 constexpr int kChannelsHeight = 21;
 constexpr GridView::Heights kSettingHeights = {16, 15, 12, 11};
@@ -44,6 +45,7 @@ SongGrids::SongGrids(const Model& model, NoteKeyboard& keyboard,
   effects_->setFixedHeight(theme::scaled(kSettingHeights.header) +
                            kLastEffect * theme::scaled(kSettingHeights.row));
   tracks_->set_heights(scaled(kNoteHeights));
+  tracks_->setMinimumHeight(theme::scaled(kNoteHeights.header + kFewestLines * kNoteHeights.row));
   tracks_->verticalScrollBar()->setFixedWidth(theme::scaled(kBarThickness));
   defilchan_->setObjectName(QStringLiteral("defilchan"));
   defilchan_->setFixedHeight(theme::scaled(kBarThickness));
