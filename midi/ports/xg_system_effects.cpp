@@ -47,8 +47,8 @@ constexpr std::uint8_t kReverbAddress = 0x00;
 constexpr std::uint8_t kChorusAddress = 0x20;
 
 bool is_xg_system_on(const SysExBytes& data) {
-  static const SysExBytes message = {0xF0, 0x43, 0x10, 0x4C, 0x00, 0x00, 0x7E, 0x00, 0xF7};
-  return data == message;
+  static const SysExBytes kMessage = {0xF0, 0x43, 0x10, 0x4C, 0x00, 0x00, 0x7E, 0x00, 0xF7};
+  return data == kMessage;
 }
 
 /// The type that a parameter change gives to the effect at an address of the system effects.
