@@ -10,8 +10,8 @@
 namespace lunavox {
 namespace {
 
-constexpr int kFamilyWidth = 84;
-constexpr int kNumberWidth = 34;
+constexpr int kFamilyWidth = 78;
+constexpr int kNumberWidth = 30;
 constexpr int kPadding = 6;
 
 }  // namespace

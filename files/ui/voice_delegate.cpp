@@ -9,7 +9,7 @@
 namespace lunavox {
 namespace {
 
-constexpr int kPadding = 6;
+constexpr int kPadding = 5;
 constexpr QColor kHover{0x26, 0x2a, 0x34};
 constexpr QColor kVariation{0xb4, 0xba, 0xc6};
 

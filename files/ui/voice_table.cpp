@@ -13,6 +13,8 @@ namespace lunavox {
 namespace {
 
 constexpr int kRowHeight = 22;
+// Wide enough for eight letters of the usual size.
+constexpr int kFullColumn = 78;
 constexpr int kForgetMs = 1500;
 
 bool is_letter(const QKeyEvent& event) {
@@ -38,7 +40,6 @@ VoiceTable::VoiceTable(const VoiceBanks& banks, QWidget* parent)
 }
 
 void VoiceTable::set_look() {
-  setFont(theme::caption_font(1));
   setShowGrid(false);
   setWordWrap(false);
   viewport()->setAttribute(Qt::WA_Hover);
@@ -153,6 +154,13 @@ void VoiceTable::mouseReleaseEvent(QMouseEvent* event) {
 void VoiceTable::focusOutEvent(QFocusEvent* event) {
   QTableView::focusOutEvent(event);
   release();
+}
+
+// On a small screen the names are set smaller rather than cut short.
+void VoiceTable::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  const int column_width = viewport()->width() / VoiceBanks::kColumns;
+  setFont(theme::caption_font(column_width < theme::scaled(kFullColumn) ? 0 : 1));
 }
 
 void VoiceTable::hideEvent(QHideEvent* event) {

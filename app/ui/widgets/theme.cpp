@@ -104,6 +104,9 @@ QScrollBar::handle:disabled { background: #191c22; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QListWidget { outline: none; }
+QListWidget::item { padding: 0 6px; border: none; background: transparent; color: #dadde3; }
+QListWidget::item:selected { background: #ffb454; color: #000000; }
 QGroupBox { border: 1px solid #30353f; border-radius: 4px; margin-top: 9px; padding-top: 6px; }
 QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; color: #8d94a3; }
 QProgressBar { background: #0f1115; border: 1px solid #30353f; border-radius: 3px; height: 8px; }
