@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace lunavox {
@@ -38,6 +39,9 @@ class FieldReader {
 
  private:
   std::string_view quoted_text();
+  /// The next field where it is a plain whole number of at most four digits, as nearly every field
+  /// of a song is; none, and nothing read, where it is not. At the end of the file there is none.
+  std::optional<std::int16_t> small_integer();
   void skip_spaces();
   /// Passes over the one comma or line end that stands next, if any.
   void skip_separator();

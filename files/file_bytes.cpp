@@ -3,7 +3,6 @@
 #include "files/disk.h"
 #include "grid/runtime_error.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <memory>
@@ -40,14 +39,8 @@ std::string read_file(const std::filesystem::path& path) {
   std::error_code unknown;
   const auto expected = std::filesystem::file_size(path, unknown);
   if (!unknown && expected > kLargestFile) fail(RuntimeError::kOutOfMemory, path);
-  std::string bytes;
-  if (!unknown) bytes.reserve(static_cast<std::size_t>(expected));
-  // The size is only a hint: a file may grow while it is read.
-  std::array<char, 1U << 16U> part;
-  while (const std::size_t count = std::fread(part.data(), 1, part.size(), file.get())) {
-    bytes.append(part.data(), count);
-    if (bytes.size() > kLargestFile) fail(RuntimeError::kOutOfMemory, path);
-  }
+  std::string bytes(unknown ? kLargestFile : static_cast<std::size_t>(expected), '\0');
+  bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file.get()));
   if (std::ferror(file.get()) != 0) fail(RuntimeError::kPathFileAccessError, path);
   return bytes;
 }

@@ -6,6 +6,8 @@
 #include "grid/runtime_error.h"
 #include "grid/runtime_numbers.h"
 
+#include <utility>
+
 namespace lunavox {
 namespace {
 
@@ -14,6 +16,43 @@ constexpr double kOldestVersion = 1.1;
 
 // Steps of the progress bar while a song is saved or opened.
 constexpr int kSteps = 8;
+
+/// The song as it was before a file was read into it. The large stores are not copied: the reader
+/// leaves the old ones here when it puts the file's in their place.
+class SongBefore {
+ public:
+  explicit SongBefore(Song& song) : rest_(copy_without_stores(song)) {}
+
+  SongStores& stores() { return stores_; }
+
+  void put_back(Song& song) {
+    // Stores that the reader had not come to are still the song's.
+    if (stores_.notes.last_row() < 0) std::swap(stores_.notes, song.notes);
+    if (stores_.values.last_row() < 0) std::swap(stores_.values, song.values);
+    if (stores_.key_attributes.last_row() < 0) {
+      std::swap(stores_.key_attributes, song.key_attributes);
+    }
+    song = rest_;
+    put_stores(song, stores_);
+  }
+
+ private:
+  static void put_stores(Song& song, SongStores& stores) {
+    song.notes = std::move(stores.notes);
+    song.values = std::move(stores.values);
+    song.key_attributes = std::move(stores.key_attributes);
+  }
+  static Song copy_without_stores(Song& song) {
+    SongStores stores = {std::exchange(song.notes, {}), std::exchange(song.values, {}),
+                         std::exchange(song.key_attributes, {})};
+    Song copy = song;
+    put_stores(song, stores);
+    return copy;
+  }
+
+  SongStores stores_;
+  Song rest_;
+};
 
 }  // namespace
 
@@ -48,21 +87,24 @@ bool SongFile::procopen() {
 }
 
 bool SongFile::read(FieldReader& fields) {
-  const Song before = song_;
-  bool accepted = false;
+  const double version = fields.number();
+  const bool accepted = accept_version(version);
+  if (accepted) read_or_put_back(fields, version);
+  put_cursor_home();
+  flags_.modified = false;
+  return accepted;
+}
+
+void SongFile::read_or_put_back(FieldReader& fields, double version) {
+  SongBefore before(song_);
   try {
-    const double version = fields.number();
-    accepted = accept_version(version);
-    if (accepted) read_song(fields, version);
+    read_song(fields, version, before.stores());
   } catch (const RuntimeError&) {
-    song_ = before;
+    before.put_back(song_);
     length_.calcultime();
     flags_.song_loading = false;
     throw;
   }
-  put_cursor_home();
-  flags_.modified = false;
-  return accepted;
 }
 
 bool SongFile::accept_version(double version) {
@@ -82,13 +124,14 @@ bool SongFile::accept_version(double version) {
   return true;
 }
 
-void SongFile::read_song(FieldReader& fields, double version) {
+void SongFile::read_song(FieldReader& fields, double version, SongStores& old) {
   flags_.song_loading = true;
   const int track_count = fields.short_integer();
   song_.tracks.set_rows(3);
   add_missing_tracks(track_count);
   set_track_columns(song_, song_.track_count);
-  read_groups(fields, version);
+  SongReader reader(song_, fields, version, old);
+  read_groups(reader);
   song_.tracks.set_column(1);
   length_.numero();
   length_.numberchange();
@@ -110,9 +153,8 @@ void SongFile::add_missing_tracks(int track_count) {
   }
 }
 
-void SongFile::read_groups(FieldReader& fields, double version) {
+void SongFile::read_groups(SongReader& reader) {
   LongOperation operation(progress_, song_.tracks, "opening...", kSteps);
-  SongReader reader(song_, fields, version);
   reader.read_row_count();
   reader.read_number_fields();
   reader.read_bookmarks();

@@ -2,6 +2,7 @@
 
 #include "files/atomic_file.h"
 #include "files/field_reader.h"
+#include "files/song_reader.h"
 #include "grid/dialogs.h"
 #include "grid/flags.h"
 #include "grid/progress.h"
@@ -57,9 +58,10 @@ class SongFile {
 
  private:
   bool accept_version(double version);
-  void read_song(FieldReader& fields, double version);
+  void read_or_put_back(FieldReader& fields, double version);
+  void read_song(FieldReader& fields, double version, SongStores& old);
   void add_missing_tracks(int track_count);
-  void read_groups(FieldReader& fields, double version);
+  void read_groups(SongReader& reader);
   void show_effects();
   void put_cursor_home();
 

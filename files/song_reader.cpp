@@ -4,6 +4,8 @@
 #include "grid/runtime_numbers.h"
 #include "midi/xg_effects.h"
 
+#include <utility>
+
 namespace lunavox {
 namespace {
 
@@ -30,6 +32,14 @@ std::int16_t old_value(int effect, std::int16_t in_file) {
   if (effect == kVariation) return kOldVariation;
   if (effect == kAttack || effect == kRelease) return kOldAttackAndRelease;
   return in_file;
+}
+
+/// Puts an empty store of some rows in a store's place.
+template <class Store>
+void replace(Store& store, Store& old, int rows) {
+  Store fresh;
+  fresh.redimension(rows);
+  old = std::exchange(store, std::move(fresh));
 }
 
 }  // namespace
@@ -98,7 +108,7 @@ void SongReader::read_used_columns() {
 }
 
 void SongReader::read_notes() {
-  song_.notes.redimension(song_.tracks.rows());
+  replace(song_.notes, old_.notes, song_.tracks.rows());
   for (int t = 1; t <= song_.track_count; ++t) {
     for (int column = 1; column <= song_.used_columns.at(t); ++column) {
       auto& entries = song_.notes.column(t, column);
@@ -115,8 +125,8 @@ void SongReader::read_channels() {
 }
 
 void SongReader::read_curves() {
-  song_.values.redimension(song_.tracks.rows());
-  song_.key_attributes.redimension(song_.tracks.rows());
+  replace(song_.values, old_.values, song_.tracks.rows());
+  replace(song_.key_attributes, old_.key_attributes, song_.tracks.rows());
   if (version_ < kFirstWithPitch) {
     read_old_curves();
     return;

@@ -5,6 +5,13 @@
 
 namespace lunavox {
 
+/// The song's stores of entries by line.
+struct SongStores {
+  decltype(Song::notes) notes;
+  decltype(Song::values) values;
+  decltype(Song::key_attributes) key_attributes;
+};
+
 /// Reads the groups of a song file into a song, one function a group, to be called in the order in
 /// which they are declared. The song has its tracks already: each group is read for all of them,
 /// whatever the file says of their number.
@@ -18,8 +25,9 @@ class SongReader {
   static constexpr double kFirstWithBanks = 2.0;
 
   /// @param version  what the file's first line says
-  SongReader(Song& song, FieldReader& fields, double version)
-      : song_(song), fields_(fields), version_(version) {}
+  /// @param old      where the song's stores are left that the file's take the place of
+  SongReader(Song& song, FieldReader& fields, double version, SongStores& old)
+      : song_(song), fields_(fields), version_(version), old_(old) {}
 
   /// Gives the `tracks` grid the file's row count, header row included.
   void read_row_count();
@@ -45,6 +53,7 @@ class SongReader {
   Song& song_;
   FieldReader& fields_;
   double version_;
+  SongStores& old_;
 };
 
 /// Fills a track's effect column with the values of the curve that it shows: key values in red,

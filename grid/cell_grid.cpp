@@ -89,6 +89,14 @@ void CellGrid::set_text(int row, int column, std::string_view text) {
   changed(row, column);
 }
 
+void CellGrid::set_text(int row, int column, std::string_view text, Colour colour) {
+  Cell& cell = writable(row, column);
+  if (cell.text == text && cell.text_colour == colour) return;
+  cell.text = text;
+  cell.text_colour = colour;
+  changed(row, column);
+}
+
 template <class Value>
 void CellGrid::write(int row, int column, Value Cell::*member, const Value& value) {
   Cell& cell = writable(row, column);

@@ -89,6 +89,8 @@ class CellGrid {
   const std::string& text(int row, int column) const { return cell(row, column).text; }
   void set_text(int row, int column, std::string_view text);
   void set_text_colour(int row, int column, Colour colour);
+  /// Text and text colour in one step.
+  void set_text(int row, int column, std::string_view text, Colour colour);
   void set_background(int row, int column, Colour colour);
   void set_alignment(int row, int column, Alignment alignment);
   void set_cell(int row, int column, const Cell& cell);

@@ -75,8 +75,7 @@ void Song::show_entry(int track, int sub_column, int row) {
     tracks.set_text(row, column, entry);
     return;
   }
-  tracks.set_text(row, column, shown_note(entry).text());
-  tracks.set_text_colour(row, column, velocity_colour(velocity_of(entry)));
+  tracks.set_text(row, column, shown_note(entry).text(), velocity_colour(velocity_of(entry)));
 }
 
 void Song::show_track_entries(int track) {
