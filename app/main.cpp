@@ -1,12 +1,14 @@
 #include "app/command_line.h"
 #include "app/headless.h"
 #include "app/ui/run_window.h"
+#include "midi/ports/logging_output_devices.h"
 #include "midi/ports/system_input_devices.h"
 #include "midi/ports/system_output_devices.h"
 
 #include <atomic>
 #include <csignal>
 #include <iostream>
+#include <optional>
 
 namespace lunavox {
 namespace {
@@ -19,10 +21,16 @@ void interrupt(int) {
   interrupted = true;
 }
 
+int edit(const CommandLine& line, OutputDevices& outputs, InputDevices& inputs) {
+  std::optional<LoggingOutputDevices> log;
+  if (!line.midi_log.empty()) log.emplace(outputs, line.midi_log);
+  return run_window(line, log ? *log : outputs, inputs);
+}
+
 int run(const CommandLine& line) {
   SystemOutputDevices outputs(line.soundfont);
   SystemInputDevices inputs;
-  if (line.mode == Mode::kEdit) return run_window(line, outputs, inputs);
+  if (line.mode == Mode::kEdit) return edit(line, outputs, inputs);
   std::signal(SIGINT, interrupt);
   std::signal(SIGTERM, interrupt);
   return run_headless(line, {outputs, inputs, std::cout, std::cerr, interrupted});

@@ -42,6 +42,8 @@ class OutputDevice {
   /// One sentence on anything the user should know of the device, such as that it is silent for
   /// want of a sound card; else empty. May change while the device is open.
   virtual std::string status() const { return {}; }
+  /// Takes the device up again when it was gone and has come back. To be called now and then.
+  virtual void look_after() {}
 };
 
 /// The outputs of the machine. Numbers are places in the list at the time of the call.
@@ -65,6 +67,8 @@ class InputDevice {
   virtual void reset() = 0;
   /// One sentence when the device has gone away while open, else empty.
   virtual std::string status() const { return {}; }
+  /// Takes the device up again when it was gone and has come back. To be called now and then.
+  virtual void look_after() {}
 };
 
 /// Receives each incoming short message, packed, on the device's own thread.

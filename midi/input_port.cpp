@@ -34,6 +34,10 @@ void InputPort::reset() {
   if (device_) device_->reset();
 }
 
+void InputPort::look_after() {
+  if (device_) device_->look_after();
+}
+
 std::string InputPort::status() const {
   return device_ ? device_->status() : std::string();
 }

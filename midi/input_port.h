@@ -23,6 +23,8 @@ class InputPort {
   void start();
   void stop();
   void reset();
+  /// Takes a device up again that was gone and has come back.
+  void look_after();
 
   /// One sentence when the open device has gone away, else empty.
   std::string status() const;

@@ -25,6 +25,7 @@ std::string note_description(const std::string& entry) {
 }  // namespace
 
 std::string cursor_line_text(const Song& song) {
+  if (song.tracks.row() < 1) return {};
   const int line = song.tracks.row() - 1;
   const int beat = line / std::max(song.number.value(), 1) + 1;
   return "Line " + number(line) + " of " + number(song.last_row()) + "   Beat " + number(beat);

@@ -69,7 +69,10 @@ MainWindow::MainWindow(const WindowModel& model, const WindowCommands& commands)
   follow(model_.flags.modified, this, [this](bool) { refresh_status(); });
   follow(model_.file_name, this, [this](const std::string&) { refresh_status(); });
   auto* timer = new QTimer(this);
-  connect(timer, &QTimer::timeout, this, [this] { refresh_status(); });
+  connect(timer, &QTimer::timeout, this, [this] {
+    if (commands_.look_after_devices) commands_.look_after_devices();
+    refresh_status();
+  });
   timer->start(kStatusMs);
   qApp->installEventFilter(this);
   restore_place();
@@ -188,12 +191,13 @@ void MainWindow::show_devices() {
   for (const OutputItem& item : model_.outputdev.items.get()) {
     if (item.checked) name = QString::fromStdString(item.caption);
   }
-  const std::string& trouble = input.empty() ? output : input;
-  if (trouble.empty()) {
-    status_->show_text(StatusLine::kOutput, name);
-  } else {
+  if (!input.empty()) {
+    status_->show_warning(StatusLine::kOutput, QString::fromStdString(input));
+  } else if (!output.empty()) {
     status_->show_warning(StatusLine::kOutput,
-                          QStringLiteral("%1: %2").arg(name, QString::fromStdString(trouble)));
+                          QStringLiteral("%1: %2").arg(name, QString::fromStdString(output)));
+  } else {
+    status_->show_text(StatusLine::kOutput, name);
   }
 }
 

@@ -51,6 +51,8 @@ struct WindowCommands {
   std::function<bool()> quit;
   std::function<void(const std::string& name)> open_song;  ///< a file was dropped on the window
   std::function<std::string()> input_status;
+  /// Takes MIDI devices up again that have come back. Called once a second.
+  std::function<void()> look_after_devices;
 };
 
 /// The main window `Form1`: composes the menus, the panels, the three grids and the status line.

@@ -107,7 +107,11 @@ WindowCommands WindowShell::window_commands() {
           [this] { record_options_->show(); },
           [this] { return quit(); },
           [this](const std::string& name) { file_commands_.open_path(name); },
-          [&e] { return e.input.status(); }};
+          [&e] { return e.input.status(); },
+          [&e] {
+            e.input.look_after();
+            if (e.output.device() != nullptr) e.output.device()->look_after();
+          }};
 }
 
 void WindowShell::add_file_commands(MenuCommands& commands) {

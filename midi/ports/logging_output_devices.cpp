@@ -33,6 +33,7 @@ class LoggingDevice : public OutputDevice {
   std::string error_text(MidiResult result) const override { return device_->error_text(result); }
   void reset() override { device_->reset(); }
   std::string status() const override { return device_->status(); }
+  void look_after() override { device_->look_after(); }
 
  private:
   std::unique_ptr<OutputDevice> device_;

@@ -57,9 +57,21 @@ void RtMidiInput::stop() {
   while (delivering_) std::this_thread::yield();
 }
 
+void RtMidiInput::look_after() {
+  if (port_.empty() || !service_.alive()) return;
+  if (port_number(in_, port_) < 0) {
+    gone_ = true;
+  } else if (gone_) {
+    // Listed again, but our connection went with the old one.
+    in_.closePort();
+    errors_.clear();
+    gone_ = !open_port();
+  }
+}
+
 std::string RtMidiInput::status() const {
   if (!service_.alive()) return "The JACK server has stopped: the MIDI input is silent.";
-  if (port_.empty() || port_number(in_, port_) >= 0) return {};
+  if (port_.empty() || (!gone_ && port_number(in_, port_) >= 0)) return {};
   return "The MIDI input \"" + port_ + "\" is gone.";
 }
 

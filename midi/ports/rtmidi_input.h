@@ -21,6 +21,7 @@ class RtMidiInput : public InputDevice {
   /// Nothing is kept back, so there is nothing more to it than stopping.
   void reset() override { stop(); }
   std::string status() const override;
+  void look_after() override;
 
  private:
   RtMidiInput(MidiService service, std::string port, InputCallback callback);
@@ -30,6 +31,7 @@ class RtMidiInput : public InputDevice {
 
   MidiService service_;
   std::string port_;  // empty for our own
+  bool gone_ = false;
   InputCallback callback_;
   // Together they let stop() know that no message is being delivered: the one is written before
   // the other is read on either side.

@@ -79,9 +79,21 @@ void RtMidiOutput::reset() {
   }
 }
 
+void RtMidiOutput::look_after() {
+  if (port_.empty() || !service_.alive()) return;
+  if (port_number(out_, port_) < 0) {
+    gone_ = true;
+  } else if (gone_) {
+    // Listed again, but our connection went with the old one.
+    out_.closePort();
+    errors_.clear();
+    gone_ = !open_port();
+  }
+}
+
 std::string RtMidiOutput::status() const {
   if (!service_.alive()) return "The JACK server has stopped: nothing is heard any more.";
-  if (port_.empty() || port_number(out_, port_) >= 0) return {};
+  if (port_.empty() || (!gone_ && port_number(out_, port_) >= 0)) return {};
   return "The MIDI output \"" + port_ + "\" is gone.";
 }
 

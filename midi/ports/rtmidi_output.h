@@ -22,6 +22,7 @@ class RtMidiOutput : public OutputDevice {
   std::string error_text(MidiResult result) const override { return port_result_text(result); }
   void reset() override;
   std::string status() const override;
+  void look_after() override;
 
  private:
   RtMidiOutput(MidiService service, std::string port);
@@ -32,6 +33,7 @@ class RtMidiOutput : public OutputDevice {
 
   MidiService service_;
   std::string port_;  // empty for our own
+  bool gone_ = false;
   PortErrors errors_;
   // Asking for the ports' names changes the library's object, not the device.
   mutable RtMidiOut out_;

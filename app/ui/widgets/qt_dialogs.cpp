@@ -2,6 +2,7 @@
 
 #include "app/ui/widgets/theme.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -65,10 +66,15 @@ QString first_suffix(const std::string& filter) {
   return pattern.startsWith(QStringLiteral("*.")) ? pattern.mid(2) : QString();
 }
 
+QWidget* QtDialogs::asking() const {
+  QWidget* active = QApplication::activeWindow();
+  return active != nullptr ? active : window_.data();
+}
+
 Answer QtDialogs::message(const Message& message) {
   const QString notice = QStringLiteral("notices/") + QString::fromStdString(message.notice);
   if (!message.notice.empty() && QSettings().value(notice).toBool()) return Answer::kOk;
-  QMessageBox box(window_);
+  QMessageBox box(asking());
   box.setObjectName(QStringLiteral("message"));
   box.setWindowTitle(message.title.empty() ? QStringLiteral("Lunavox")
                                            : QString::fromStdString(message.title));
@@ -92,7 +98,7 @@ Answer QtDialogs::message(const Message& message) {
 }
 
 std::string QtDialogs::input(const Question& question) {
-  QInputDialog box(window_);
+  QInputDialog box(asking());
   box.setObjectName(QStringLiteral("input"));
   box.setWindowTitle(QString::fromStdString(question.title));
   box.setLabelText(QString::fromStdString(question.prompt));

@@ -23,6 +23,8 @@ class QtDialogs : public Dialogs {
 
  private:
   QString folder() const;
+  /// The window that has the keys, and is to have them again after a box.
+  QWidget* asking() const;
 
   QPointer<QWidget> window_;
   std::function<std::string()> folder_;

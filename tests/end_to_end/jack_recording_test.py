@@ -1,0 +1,139 @@
+"""Notes that another program plays into the built editor, over a real JACK server: heard on the
+track's channel, and recorded step by step and in real time.
+
+usage: jack_recording_test.py LUNAVOX"""
+
+import os
+import sys
+import unittest
+
+import editor
+import jack
+
+LUNAVOX = None
+CLICK = "99 25 60"
+LINE_MS = 125
+
+
+class JackRecording(unittest.TestCase):
+    def setUp(self):
+        stage = editor.stage()
+        self.server, self.home = stage.__enter__()
+        self.addCleanup(stage.__exit__, None, None, None)
+        self.song = f"{self.home}/song.lvx"
+
+    def play_in(self):
+        """Two notes on channel 1 over and over: 60, and 63 a quarter of a second later."""
+        player = self.server.run("jack_midiseq", "seq", "24000", "0", "60", "6000", "12000", "63",
+                                 "6000")
+        self.server.wait_for_port("seq:out")
+        return player
+
+    def start(self, *options):
+        return editor.Editor(self.server, LUNAVOX, self.home, *options).main()
+
+    def test_step_by_step(self):
+        monitor = self.server.monitor()
+        self.play_in()
+        window = self.start("--input", "seq:out", "--output", monitor.PORT)
+        heard_first = len(window.wait_for_notes(1))
+        window.key("space")
+        window.wait_for_notes(heard_first + 8)
+        window.key("space")
+        heard = [text for _, text in window.notes()]
+        entries = [entry for entry in editor.drum_notes(window.save_as(self.song)) if entry]
+
+        # Drums, at the velocity that is set: channel 10 at 127.
+        self.assertGreaterEqual(len(entries), 7)
+        self.assertEqual(set(entries), {"7F3C99", "7F3F99"})
+        self.assertTrue(all(a != b for a, b in zip(entries, entries[1:])), entries)
+        self.assertEqual(set(heard), {"99 3c 7f", "99 3f 7f"})
+        received = [text for text in monitor.messages() if text in ("99 3c 7f", "99 3f 7f")]
+        self.assertGreaterEqual(len(received), 8)
+        self.assertIn("99 3c 00", monitor.messages(), "a note-off goes out as velocity 0")
+        self.assertFalse([text for text in monitor.messages() if text.startswith(("80", "90"))])
+
+    def test_in_real_time(self):
+        monitor = self.server.monitor()
+        self.play_in()
+        window = self.start("--input", "seq:out", "--output", monitor.PORT)
+        window.click(editor.REALTIME_RECORD)
+        window.window("Realtime record").key("space", "Escape")  # the metronome, on
+        window.wait_for_no_window("Realtime record")
+        window.main().click(editor.RECORD_BUTTON)
+        window.window("Realtime record")  # the count-in, of four beats
+        window.wait_for_no_window("Realtime record")
+
+        def clicks():
+            return [time for time, text in window.sent() if text == CLICK]
+
+        # The count-in's, and those of the first line and of two beats after it.
+        jack.wait_until(lambda: len(clicks()) >= 4 + 3, "click of the metronome")
+        window.main().click(editor.RECORD_BUTTON)
+        lines = editor.drum_notes(window.save_as(self.song))
+        recorded = [(line, entry) for line, entry in enumerate(lines) if entry]
+
+        # A click comes when its line ends: the fifth one ends line 0.
+        line_1 = clicks()[4]
+        heard = [((time - line_1) / LINE_MS + 1, text) for time, text in window.notes()
+                 if text != CLICK and time > line_1 - LINE_MS / 2]
+        self.assertGreaterEqual(len(recorded), 4)
+        for line, text in heard[1:3]:
+            entry = "7F" + text[3:5].upper() + "99"
+            place = min((place for place, found in recorded if found == entry),
+                        key=lambda place: abs(place - line))
+            self.assertLessEqual(abs(place - line), 2, (heard, recorded))
+        self.assertTrue(all(a != b for (_, a), (_, b) in zip(recorded, recorded[1:])), recorded)
+        self.assertIn(CLICK, monitor.messages())
+        beats = sorted(later - time for time, later in zip(clicks(), clicks()[1:]))
+        self.assertLess(abs(beats[len(beats) // 2] - 4 * LINE_MS), LINE_MS, beats)
+
+    def test_the_end_of_the_player_and_of_the_server_leaves_the_editor_at_work(self):
+        player = self.play_in()
+        window = self.start("--input", "seq:out")
+        window.wait_for_notes(2)
+        well = window.device_status()
+        player.stop()
+        jack.wait_until(lambda: window.device_status() != well, "word of the input's end")
+        heard = len(window.notes())
+        window.key("space", "q")
+        window.wait_for_notes(heard + 1)
+        self.play_in()
+        jack.wait_until(lambda: window.device_status() == well, "word of the input's return")
+        window.wait_for_notes(heard + 3)
+        self.server.die()
+        jack.wait_until(lambda: window.device_status() != well, "word of the server's end")
+        heard = len(window.notes())
+        window.key("w")
+        window.wait_for_notes(heard + 1)
+        window.key("space")
+        entries = [entry for entry in editor.drum_notes(window.save_as(self.song)) if entry]
+        self.assertEqual((entries[0], entries[-1]), ("7F3099", "7F3299"))
+        window.quit()
+
+    def test_a_remembered_input_that_is_gone_is_told(self):
+        os.makedirs(f"{self.home}/config/lunavox")
+        with open(f"{self.home}/config/lunavox/lvconfig.ini", "w", encoding="ascii") as config:
+            config.write("input=7\r\nboot=1\r\n")
+        window = editor.Editor(self.server, LUNAVOX, self.home)
+        window.window("Error").key("Return")
+        self.assertEqual(window.process.wait(), 1)
+
+    def test_the_input_is_chosen_once_and_remembered(self):
+        self.play_in()
+        for chosen_now in (True, False):
+            window = editor.Editor(self.server, LUNAVOX, self.home)
+            if chosen_now:
+                window.window("Midi input").key("Down", "Return")
+            window.main().wait_for_notes(1)
+            window.quit()
+        with open(f"{self.home}/config/lunavox/lvconfig.ini", "rb") as config:
+            self.assertEqual(config.read(), b"input=0\r\nboot=1\r\n")
+
+
+if __name__ == "__main__":
+    if editor.missing_tools():
+        print("not installed:", *editor.missing_tools())
+        sys.exit(77)  # skipped
+    LUNAVOX = sys.argv.pop(1)
+    unittest.main()
