@@ -49,7 +49,8 @@ class Display(contextlib.ExitStack):
     def _start(self):
         said, says = os.pipe()
         server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(says), "-screen", "0", "1024x768x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(says), "-screen", "0", "1024x768x24", "-nolisten", "tcp",
+             "-noreset"],
             pass_fds=[says], stderr=subprocess.DEVNULL)
         self.callback(server.wait)
         self.callback(server.terminate)
@@ -83,7 +84,15 @@ class Editor:
         return self
 
     def main(self):
-        return self.window(MAIN)
+        """Gives the keys to the main window, once no long work keeps it from taking them."""
+        self.window(MAIN)
+        self.wait_for_no_window("PLEASE WAIT[.]*")
+        return self
+
+    def ready(self):
+        """The main window, once start-up has come to its end, the reset of the output."""
+        jack.wait_until(self.sent, "reset of the output")
+        return self.main()
 
     def wait_for_no_window(self, title):
         jack.wait_until(lambda: not self._do("search", "--onlyvisible", "--name", f"^{title}$"),
@@ -100,8 +109,8 @@ class Editor:
         for key in keys:
             self._do("key", str(KEYS.get(key, key)))
 
-    def click(self, place):
-        self._do("mousemove", str(place[0]), str(place[1]), "click", "1")
+    def click(self, place, times=1):
+        self._do("mousemove", str(place[0]), str(place[1]), "click", "--repeat", str(times), "1")
 
     def type(self, text):
         self._do("type", "--delay", "1", text)
@@ -122,10 +131,11 @@ class Editor:
         return song_lines(path)
 
     def open(self, path):
+        sent = len(self.sent())
         self.file_command("Open")
         self.window("Open.*").type(path)
         self.key("Return")
-        self.wait_for_no_window("Open.*")
+        jack.wait_until(lambda: len(self.sent()) > sent, "voice of the opened song")
         self.main()
 
     def quit(self):

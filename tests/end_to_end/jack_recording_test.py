@@ -30,7 +30,7 @@ class JackRecording(unittest.TestCase):
         return player
 
     def start(self, *options):
-        return editor.Editor(self.server, LUNAVOX, self.home, *options).main()
+        return editor.Editor(self.server, LUNAVOX, self.home, *options).ready()
 
     def test_step_by_step(self):
         monitor = self.server.monitor()
@@ -125,7 +125,7 @@ class JackRecording(unittest.TestCase):
             window = editor.Editor(self.server, LUNAVOX, self.home)
             if chosen_now:
                 window.window("Midi input").key("Down", "Return")
-            window.main().wait_for_notes(1)
+            window.ready().wait_for_notes(1)
             window.quit()
         with open(f"{self.home}/config/lunavox/lvconfig.ini", "rb") as config:
             self.assertEqual(config.read(), b"input=0\r\nboot=1\r\n")
