@@ -38,8 +38,8 @@ class PaintCount : public QObject {
 
 /// Waits until an X server has done all that it was told.
 void wait_for_display() {
+  if (QGuiApplication::platformName() != QLatin1String("xcb")) return;
   auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) return;
   xcb_connection_t* connection = x11->connection();
   const xcb_get_input_focus_cookie_t asked = xcb_get_input_focus(connection);
   std::free(xcb_get_input_focus_reply(connection, asked, nullptr));
