@@ -16,7 +16,8 @@ class ScriptedInputs : public InputDevices {
 
   std::vector<std::string> device_names;
   bool opens = true;
-  int opened = -1;  ///< the number opened last, -1 for none
+  int opened = -1;      ///< the number opened last, -1 for none
+  std::string trouble;  ///< what the open device's status tells
   std::vector<std::string> calls;
 
   /// A message arrives at the open device; lost where none is open and started.
@@ -42,6 +43,7 @@ class ScriptedInputs : public InputDevices {
     void start() override { note("start", true); }
     void stop() override { note("stop", false); }
     void reset() override { note("reset", owner_.started_); }
+    std::string status() const override { return owner_.trouble; }
 
    private:
     void note(const char* call, bool started) {

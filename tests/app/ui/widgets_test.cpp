@@ -46,6 +46,22 @@ TEST(QtDialogs, QuestionsAreAnsweredByTheirButtons) {
   }
 }
 
+TEST(QtDialogs, AMessageStandsBeforeTheDialogThatAsksAndGivesItTheKeysBack) {
+  QWidget window;
+  window.show();
+  QDialog options(&window);
+  options.show();
+  options.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&options));
+  QtDialogs dialogs;
+  dialogs.set_window(&window);
+  answer_box<QMessageBox>([&options](QMessageBox& box) {
+    EXPECT_EQ(box.parentWidget(), &options);
+    box.button(QMessageBox::Ok)->click();
+  });
+  dialogs.error("Invalid value (0-8)");
+}
+
 TEST(QtDialogs, EscapeCancelsAQuestion) {
   QtDialogs dialogs;
   answer_box<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });

@@ -3,24 +3,22 @@
 #include "app/ui/window_shell.h"
 #include "tests/support/recording_output.h"
 #include "tests/support/scripted_dialogs.h"
+#include "tests/support/scripted_inputs.h"
 
 #include <QTest>
 #include <QTimer>
 
 namespace lunavox::test {
 
-/// A machine without MIDI inputs.
-class NoInputs : public InputDevices {
- public:
-  std::vector<std::string> names() override { return {}; }
-  std::unique_ptr<InputDevice> open(int, InputCallback) override { return nullptr; }
-  std::string open_error() const override { return {}; }
-};
-
 /// The whole editor with its window, on recorded devices and a clock that is set by hand. What the
 /// editor tells and asks is answered from a script.
 struct WindowBench {
-  explicit WindowBench(int track_count = 1) {
+  /// @param keyboard  the layout set that the keys' places stand for
+  /// @param input     the name of the one MIDI input; empty for a machine without
+  explicit WindowBench(int track_count = 1, LayoutSet keyboard = LayoutSet::kQwerty,
+                       const std::string& input = {})
+      : inputs(input.empty() ? std::vector<std::string>() : std::vector{input}),
+        wishes{std::nullopt, input.empty() ? std::nullopt : std::optional(input), keyboard} {
     window.resize(1024, 768);
     shell.start("");
     for (int t = 2; t <= track_count; ++t) editor.tracks.addinstrutrack();
@@ -44,6 +42,24 @@ struct WindowBench {
   /// Lets all that waits happen.
   static void settle() { QCoreApplication::processEvents(); }
 
+  /// A key event in the note grid as the X server sends it, with the place of the key.
+  /// @param place the key code of the input device, the X server's less 8
+  void send_key(QEvent::Type type, quint32 place, bool repeat = false) {
+    QKeyEvent event(type, Qt::Key_unknown, {}, place + 8, 0, 0, QString(), repeat);
+    QCoreApplication::sendEvent(&find<QWidget>("tracks"), &event);
+    settle();
+  }
+  void press(quint32 place) { send_key(QEvent::KeyPress, place); }
+  void release(quint32 place) { send_key(QEvent::KeyRelease, place); }
+  /// Presses a key and lets it repeat.
+  void hold(quint32 place, int repeats) {
+    press(place);
+    for (int i = 0; i < repeats; ++i) {
+      send_key(QEvent::KeyRelease, place, true);
+      send_key(QEvent::KeyPress, place, true);
+    }
+  }
+
   template <class Object>
   Object& find(const char* name) {
     auto* object = window.findChild<Object*>(QLatin1String(name));
@@ -57,10 +73,11 @@ struct WindowBench {
   }
 
   RecordingOutput outputs;
-  NoInputs inputs;
+  ScriptedInputs inputs;
   ManualClock clock;
   ScriptedDialogs dialogs;
-  WindowShell shell{{outputs, inputs, clock, folders()}, {}, &dialogs};
+  StartUp::Wishes wishes;
+  WindowShell shell{{outputs, inputs, clock, folders()}, wishes, &dialogs};
   Editor& editor = shell.editor();
   MainWindow& window = shell.window();
 };
