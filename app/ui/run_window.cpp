@@ -1,6 +1,7 @@
 #include "app/ui/run_window.h"
 
 #include "app/ui/keyboard_detection.h"
+#include "app/ui/termination_signals.h"
 #include "app/ui/widgets/theme.h"
 #include "app/ui/window_shell.h"
 
@@ -30,6 +31,7 @@ class Application : public QApplication {
 
 int run(Application& application, WindowShell& shell, const std::string& song) {
   application.fault = [&shell](const std::string& text) { shell.end_on_fault(text); };
+  const TerminationSignals termination([&shell] { shell.end_at_once(); });
   try {
     shell.start(song);
   } catch (const std::exception& error) {

@@ -71,6 +71,7 @@ EffectsView::EffectsView(Song& song, std::function<void(int column, int row)> cl
   setAccessibleName(QStringLiteral("effects"));
   // A click leaves the keys with the notes.
   setFocusPolicy(Qt::TabFocus);
+  refresh_cursor();
 }
 
 void EffectsView::keyPressEvent(QKeyEvent* event) {
@@ -94,6 +95,7 @@ ChannelsView::ChannelsView(Song& song) : GridView(song.channels, HeaderRow::kNon
   setObjectName(QStringLiteral("channels"));
   setAccessibleName(QStringLiteral("channels"));
   setFocusPolicy(Qt::NoFocus);
+  refresh_cursor();
 }
 
 void ChannelsView::mousePressEvent(QMouseEvent* event) {

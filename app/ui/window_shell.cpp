@@ -187,6 +187,13 @@ void WindowShell::start(const std::string& song) {
   window_->focus_tracks();
 }
 
+void WindowShell::end_at_once() {
+  if (ended_) return;
+  recovery_.write_now();
+  editor_->close_ports();
+  end(0);
+}
+
 void WindowShell::end_on_fault(const std::string& text) {
   if (ended_) return;
   ended_ = 1;

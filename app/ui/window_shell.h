@@ -51,6 +51,9 @@ class WindowShell {
   std::optional<int> ended() const { return ended_; }
   /// Ends the program: its event loop returns, or is not entered.
   void end(int status);
+  /// Ends the program at the system's wish, without questions: unsaved work is kept for the next
+  /// start.
+  void end_at_once();
   /// Tells of a fault that no rule handles, keeps the song, and ends the program with status 1.
   void end_on_fault(const std::string& text);
 
