@@ -111,6 +111,18 @@ class JackRecording(unittest.TestCase):
         self.assertEqual((entries[0], entries[-1]), ("7F3099", "7F3299"))
         window.quit()
 
+    def test_an_output_that_comes_back_is_taken_up_again(self):
+        monitor = self.server.monitor()
+        window = self.start("--input", "virtual", "--output", monitor.PORT)
+        well = window.device_status()
+        monitor.process.stop()
+        jack.wait_until(lambda: window.device_status() != well, "word of the output's end")
+        window.key("q")
+        monitor = self.server.monitor()
+        jack.wait_until(lambda: window.device_status() == well, "word of the output's return")
+        window.key("w")
+        jack.wait_until(lambda: "99 32 7f" in monitor.messages(), "note at the new port")
+
     def test_a_remembered_input_that_is_gone_is_told(self):
         os.makedirs(f"{self.home}/config/lunavox")
         with open(f"{self.home}/config/lunavox/lvconfig.ini", "w", encoding="ascii") as config:
