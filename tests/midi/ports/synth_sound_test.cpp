@@ -20,7 +20,7 @@ const SysExBytes kXgSystemOn = {0xF0, 0x43, 0x10, 0x4C, 0x00, 0x00, 0x7E, 0x00, 
 class SynthSound : public testing::Test {
  protected:
   void SetUp() override {
-    if (!std::filesystem::exists(kSoundFont)) GTEST_SKIP() << kSoundFont << " is not installed";
+    ASSERT_TRUE(std::filesystem::exists(kSoundFont)) << kSoundFont << " is not installed";
     std::string problem;
     synth_ = Synthesiser::load(kSoundFont, kRate, problem);
     ASSERT_TRUE(synth_) << problem;
@@ -201,7 +201,7 @@ TEST_F(SynthSound, ATunnelRingsLongerThanAWhiteRoom) {
 }
 
 TEST(SynthSoundFont, ABrokenSoundFontIsOneSentence) {
-  if (!std::filesystem::exists(kSoundFont)) GTEST_SKIP() << kSoundFont << " is not installed";
+  ASSERT_TRUE(std::filesystem::exists(kSoundFont)) << kSoundFont << " is not installed";
   const TestFolder folder;
   const std::string whole = test::read_file(kSoundFont);
   const std::string_view begin = whole;
