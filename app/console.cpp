@@ -16,8 +16,9 @@ std::string on_one_line(const std::string& text) {
 }  // namespace
 
 Answer ConsoleDialogs::message(const Message& message) {
+  // What follows from the first fault is no news.
+  if (!told_) errors_ << "lunavox: " << on_one_line(message.text) << '\n';
   told_ = true;
-  errors_ << "lunavox: " << on_one_line(message.text) << '\n';
   return message.buttons == Buttons::kOk ? Answer::kOk : Answer::kCancel;
 }
 

@@ -57,6 +57,9 @@ bool OutputChoice::choose(int index, int device) {
   // What sounds on the device that is left would never be ended.
   port_.reset_device();
   if (!port_.open(device)) {
+    // Which device, or which SoundFont, and what is wrong with it.
+    const std::string reason = devices_.open_error();
+    if (!reason.empty()) dialogs_.error(reason, "Error");
     dialogs_.error("No Midi output device found", "Error");
     if (hooks_.close_input) hooks_.close_input();
     if (hooks_.end_program) hooks_.end_program();

@@ -128,6 +128,17 @@ TEST_F(HeadlessRun, AnOutputThatIsNotThereIsOneLine) {
   EXPECT_EQ(errors_.str(), "lunavox: there is no MIDI output 'organ'\n");
 }
 
+TEST_F(HeadlessRun, ASoundFontThatIsMissingOrBrokenIsOneLine) {
+  write_song("in.lvx");
+  EXPECT_EQ(run({"--render", path("out.wav"), path("in.lvx"), "--soundfont", "/no/such.sf2"}), 1);
+  EXPECT_EQ(errors_.str(), "lunavox: The SoundFont \"/no/such.sf2\" does not exist.\n");
+  EXPECT_FALSE(fs::exists(path("out.wav")));
+  errors_.str("");
+  EXPECT_EQ(run({"--render", path("out.wav"), path("in.lvx"), "--soundfont", path("in.lvx")}), 1);
+  EXPECT_EQ(errors_.str(), "lunavox: The file \"" + path("in.lvx") + "\" is not a SoundFont.\n");
+  EXPECT_FALSE(fs::exists(path("out.wav")));
+}
+
 TEST_F(HeadlessRun, RenderingWritesSoundAndTheLogSaysWhatWasSent) {
   write_song("in.lvx");
   EXPECT_EQ(run({"--render", path("out.wav"), path("in.lvx"), "--midi-log", path("log.txt")}), 0)

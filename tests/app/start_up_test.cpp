@@ -155,7 +155,7 @@ TEST(StartUp, AnOutputThatCannotBeOpenedEndsTheProgram) {
   bench.folder.write("lvconfig.ini", "input=0\r\nboot=1\r\n");
   bench.output.opens = false;
   bench.start();
-  EXPECT_EQ(bench.dialogs.messages.at(0), error_box("No Midi output device found", "Error"));
+  EXPECT_EQ(bench.dialogs.messages.back(), error_box("No Midi output device found", "Error"));
   EXPECT_EQ(bench.inputs.calls, (std::vector<std::string>{"close"}));
   EXPECT_EQ(bench.end_status, 1);
   EXPECT_FALSE(bench.ready);

@@ -112,11 +112,12 @@ TEST_F(OutputChoiceTest, TheXgListsShowTheirFirstEntriesAndTheSongStaysUnmodifie
   EXPECT_EQ(studio.output.sysexes().size(), 4U);
 }
 
-TEST_F(OutputChoiceTest, WithoutAnOutputTheProgramEndsAfterItsMessage) {
+TEST_F(OutputChoiceTest, WithoutAnOutputTheProgramEndsAfterTheReasonAndItsMessage) {
   studio.output.opens = false;
   EXPECT_FALSE(choice.click(2));
   EXPECT_EQ(studio.dialogs.messages,
-            std::vector<Message>{test::error_box("No Midi output device found", "Error")});
+            (std::vector<Message>{test::error_box("The device cannot be opened.", "Error"),
+                                  test::error_box("No Midi output device found", "Error")}));
   EXPECT_EQ(ended, (std::vector<std::string>{"input closed", "program ended"}));
   EXPECT_TRUE(studio.output.shorts().empty());
 }
