@@ -10,9 +10,11 @@
 #include "midi/transport.h"
 #include "midi/xg_effects.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
@@ -23,9 +25,30 @@ namespace {
 constexpr QSize kTransportButton{40, 32};
 constexpr QSize kBookmarkButton{28, 28};
 
-/// A list that leaves the keys with the note grid once an entry is chosen.
-QComboBox* make_list(const char* name, int width, Panel& panel) {
-  auto* list = new QComboBox(&panel);
+/// A list that gives the keys back to the note grid once an entry is chosen, and on Escape.
+class PanelList : public QComboBox {
+ public:
+  PanelList(std::function<void()> done, QWidget* parent)
+      : QComboBox(parent), done_(std::move(done)) {}
+
+  void hidePopup() override {
+    const bool was_open = view()->isVisible();
+    QComboBox::hidePopup();
+    if (was_open) done_();
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Escape) return done_();
+    QComboBox::keyPressEvent(event);
+  }
+
+ private:
+  std::function<void()> done_;
+};
+
+QComboBox* make_list(const char* name, int width, const std::function<void()>& done, Panel& panel) {
+  auto* list = new PanelList(done, &panel);
   list->setObjectName(QLatin1String(name));
   list->setAccessibleName(QLatin1String(name));
   list->setFont(theme::caption_font());
@@ -94,7 +117,7 @@ XgPanel::XgPanel(Song& song, XgEffects& effects, const std::function<void()>& do
       {"variation", XgList::kVariation, song.variation, &XgEffects::variation_click},
   };
   for (const List& list : lists) {
-    QComboBox* box = make_list(list.name, 104, *this);
+    QComboBox* box = make_list(list.name, 104, done, *this);
     for (const std::string& name : xg_names(list.list)) box->addItem(QString::fromStdString(name));
     follow(list.choice, box, [box](int item) { box->setCurrentIndex(item); });
     connect(box, &QComboBox::activated, this, [&effects, done, click = list.click](int item) {
@@ -119,7 +142,7 @@ VoicePanel::VoicePanel(Property<std::string>& voice_name)
 BookmarkPanel::BookmarkPanel(SkinPictures& skin, ButtonPictures& pictures, Song& song,
                              Bookmarks& bookmarks, const std::function<void()>& done)
     : Panel(QStringLiteral("Frame4"), QStringLiteral("Bookmarks")) {
-  QComboBox* list = make_list("bookmark", 116, *this);
+  QComboBox* list = make_list("bookmark", 116, done, *this);
   auto* add = new PictureButton(QStringLiteral("Image1"), skin, pictures.addbook,
                                 {[&bookmarks] { bookmarks.image1_mousedown(); },
                                  [&bookmarks] { bookmarks.image1_mouseup(); }},

@@ -57,7 +57,7 @@ WindowShell::WindowShell(const Machine& machine, const StartUp::Wishes& wishes, 
   record_options_ = std::make_unique<RecordOptionsDialog>(e.options, dialogs_, window_.get());
   instrument_ = std::make_unique<InstrumentDialog>(e.voice_choice, window_.get());
   drum_kit_ = std::make_unique<DrumKitDialog>(e.drum_choice, window_.get());
-  count_in_->setParent(window_.get(), Qt::Dialog);
+  count_in_->setParent(window_.get(), count_in_->windowFlags());
   window_->setWindowIcon(program_icon(folders_.data));
   tie();
 }
@@ -104,7 +104,7 @@ WindowCommands WindowShell::window_commands() {
   Editor& e = *editor_;
   return {menu_commands(),
           [&e](int column, int row) { e.curves.effects_click(column, row); },
-          [this] { record_options_->show(); },
+          [this] { show_record_options(); },
           [this] { return quit(); },
           [this](const std::string& name) { file_commands_.open_path(name); },
           [&e] { return e.input.status(); },
@@ -161,6 +161,13 @@ void WindowShell::keep_song() {
   if (!due) return;
   const auto left = static_cast<std::int32_t>(elapsed_ms(clock_.timeGetTime(), *due));
   recovery_timer_.start(std::max(left, 1));
+}
+
+// Also where it is open already, behind another window.
+void WindowShell::show_record_options() {
+  record_options_->show();
+  record_options_->raise();
+  record_options_->activateWindow();
 }
 
 bool WindowShell::quit() {

@@ -65,6 +65,7 @@ class WindowShell {
   void tie_files();
   void choose_input(const std::vector<std::string>& names);
   bool quit();
+  void show_record_options();
   void keep_song();
 
   ProgramFolders folders_;

@@ -2,9 +2,11 @@
 #include "app/ui/widgets/picture_button.h"
 #include "window_bench.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -84,6 +86,33 @@ TEST_F(MainWindowTest, MenusHoldTheirEntriesInOrder) {
   EXPECT_EQ(bench.find<QMenu>("menuabout").title().toStdString(), "&Help");
   EXPECT_EQ(captions("menuabout"),
             (std::vector<std::string>{"All you have to know", "About Lunavox"}));
+}
+
+TEST_F(MainWindowTest, MenuEntriesAreFoundByTheirNames) {
+  const std::pair<const char*, const char*> entries[] = {
+      {"menunew", "New"},
+      {"menuopen", "Open"},
+      {"menusave", "Save"},
+      {"menusaveas", "Save as"},
+      {"menuexport", "Export as .mid"},
+      {"menuquit", "Quit"},
+      {"menucut", "Cut"},
+      {"menucopy", "Copy"},
+      {"menupaste", "Paste"},
+      {"menuvelval", "Velocity: fixed value"},
+      {"menuvelper", "Velocity: percent"},
+      {"menutrans", "Transpose"},
+      {"menuask", "Ask for input device next launch"},
+      {"output0", "System default"},
+      {"menuaddinstru", "add instrument track"},
+      {"menudeltrack", "del last track"},
+      {"menuhelp", "All you have to know"},
+      {"menuauthor", "About Lunavox"},
+  };
+  for (const auto& [name, caption] : entries) {
+    EXPECT_EQ(bench.find<QAction>(name).text().toStdString(), caption);
+  }
+  EXPECT_EQ(bench.find<QMenu>("menuoutput").title().toStdString(), "&Output device");
 }
 
 TEST_F(MainWindowTest, NoMenuEntryHasAKeyOfItsOwn) {
@@ -220,6 +249,43 @@ TEST_F(MainWindowTest, XgListsSendTheirChoice) {
   EXPECT_TRUE(editor.flags.modified);
   trigger("output2");
   EXPECT_EQ(reverb.currentText().toStdString(), "Hall 1");
+}
+
+TEST_F(MainWindowTest, EscapeLeavesAListToTheNotes) {
+  for (const char* name : {"reverb", "chorus", "variation", "bookmark"}) {
+    QComboBox& list = bench.find<QComboBox>(name);
+    list.setFocus();
+    QTest::keyClick(&list, Qt::Key_Escape);
+    EXPECT_TRUE(grid("tracks").hasFocus()) << name;
+  }
+  EXPECT_TRUE(bench.outputs.sysexes().empty());
+}
+
+TEST_F(MainWindowTest, EscapeClosesAnOpenListAndLeavesItToTheNotes) {
+  QComboBox& reverb = bench.find<QComboBox>("reverb");
+  reverb.setFocus();
+  reverb.showPopup();
+  QTest::keyClick(reverb.view(), Qt::Key_Escape);
+  WindowBench::settle();
+  EXPECT_FALSE(reverb.view()->isVisible());
+  EXPECT_TRUE(grid("tracks").hasFocus());
+  EXPECT_TRUE(bench.outputs.sysexes().empty());
+}
+
+TEST_F(MainWindowTest, TheRealtimeOptionsComeToTheFrontEachTimeTheBoxIsChecked) {
+  QCheckBox& realtime = bench.find<QCheckBox>("realtime");
+  QDialog& options = bench.find<QDialog>("Form8");
+  QTest::mouseClick(&realtime, Qt::LeftButton, {}, QPoint(6, 8));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&options));
+  bench.window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&bench.window));
+  QTest::mouseClick(&realtime, Qt::LeftButton, {}, QPoint(6, 8));
+  QTest::mouseClick(&realtime, Qt::LeftButton, {}, QPoint(6, 8));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&options));
+}
+
+TEST_F(MainWindowTest, TheCountInStaysOnTop) {
+  EXPECT_TRUE(bench.find<QDialog>("Form9").windowFlags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
 TEST_F(MainWindowTest, BookmarksAreAddedChosenAndDeletedWithTheirButtons) {
