@@ -12,15 +12,15 @@ namespace {
 struct SectionPlan {
   const char* name;
   int stretch;
-  int width;  ///< of sections that do not stretch
+  const char* widest;  ///< text of a section that does not stretch
 };
 
 constexpr std::array<SectionPlan, StatusLine::kSections> kPlan = {{
-    {"statusfile", 1, 0},
-    {"statusoutput", 3, 0},
-    {"statusline", 0, 146},
-    {"statuscell", 0, 186},
-    {"statusoctave", 0, 62},
+    {"statusfile", 1, ""},
+    {"statusoutput", 3, ""},
+    {"statusline", 0, "Line 2999 of 3000   Beat 3000"},
+    {"statuscell", 0, "Track 10 #8: G#10 velocity 127"},
+    {"statusoctave", 0, "Octave +4"},
 }};
 
 /// A label whose text ends in dots where it does not fit.
@@ -58,7 +58,9 @@ StatusLine::StatusLine(QWidget* parent) : QWidget(parent) {
     // The text must not decide on the width, or the sections would shift with it.
     label->setSizePolicy(kPlan[i].stretch > 0 ? QSizePolicy::Ignored : QSizePolicy::Fixed,
                          QSizePolicy::Fixed);
-    if (kPlan[i].stretch == 0) label->setFixedWidth(theme::scaled(kPlan[i].width));
+    if (kPlan[i].stretch == 0) {
+      label->setFixedWidth(label->fontMetrics().horizontalAdvance(QLatin1String(kPlan[i].widest)));
+    }
     set_warning(*label, false);
     row->addWidget(label, kPlan[i].stretch);
     labels_[i] = label;

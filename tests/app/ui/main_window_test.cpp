@@ -354,6 +354,22 @@ TEST_F(MainWindowTest, TheStatusLineKeepsUpWithTheSongsLengthAndBeat) {
   EXPECT_EQ(bench.find<QLabel>("statusline").text().toStdString(), "Line 9 of 200   Beat 5");
 }
 
+TEST_F(MainWindowTest, TheStatusLineHasRoomForTheLastLineOfTheLongestSong) {
+  const auto fits = [&](const char* name) {
+    const QLabel& label = bench.find<QLabel>(name);
+    return label.fontMetrics().horizontalAdvance(label.text()) <= label.width();
+  };
+  enter("length", "3000");
+  enter("number", "1");
+  editor.song.write_entry(1, 8, 3000, "7F7F99");
+  editor.song.show_entry(1, 8, 3000);
+  editor.song.tracks.set_cursor(3000, 8);
+  EXPECT_EQ(bench.find<QLabel>("statusline").text().toStdString(), "Line 2999 of 3000   Beat 3000");
+  EXPECT_TRUE(fits("statusline"));
+  EXPECT_TRUE(fits("statuscell")) << bench.find<QLabel>("statuscell").text().toStdString();
+  EXPECT_TRUE(fits("statusoctave"));
+}
+
 TEST_F(MainWindowTest, TheVoiceFieldFollowsTheCurrentTrack) {
   trigger("menuaddinstru");
   EXPECT_EQ(bench.find<QLabel>("voicename").text().toStdString(), "GrandPno");
