@@ -33,11 +33,12 @@ QMenu& build_edit_menu(QMenuBar& bar, const MenuCommands& commands) {
   add(edit, "menucut", "Cut", commands.menucut);
   add(edit, "menucopy", "Copy", commands.menucopy);
   QAction& paste = add(edit, "menupaste", "Paste", commands.menupaste);
-  edit.addSeparator()->setObjectName(QStringLiteral("trait"));
+  QMenu& trait = *edit.addMenu(QStringLiteral("Selected notes"));
+  trait.setObjectName(QStringLiteral("trait"));
   const std::vector<QAction*> tools = {
-      &add(edit, "menuvelval", "Velocity: fixed value", commands.menuvelval),
-      &add(edit, "menuvelper", "Velocity: percent", commands.menuvelper),
-      &add(edit, "menutrans", "Transpose", commands.menutrans),
+      &add(trait, "menuvelval", "Velocity: fixed value", commands.menuvelval),
+      &add(trait, "menuvelper", "Velocity: percent", commands.menuvelper),
+      &add(trait, "menutrans", "Transpose", commands.menutrans),
   };
   QObject::connect(&edit, &QMenu::aboutToShow, &edit,
                    [&paste, tools, can_paste = commands.can_paste,

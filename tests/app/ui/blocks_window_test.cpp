@@ -62,7 +62,14 @@ struct BlocksWindowTest : testing::Test {
     ASSERT_TRUE(menu.isVisible());
     auto& action = bench.find<QAction>(entry);
     EXPECT_TRUE(action.isEnabled()) << entry;
-    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&action).center());
+    QMenu& holder = trait.actions().contains(&action) ? trait : menu;
+    if (&holder == &trait) {
+      menu.setActiveAction(trait.menuAction());
+      QTest::keyClick(&menu, Qt::Key_Right);
+      WindowBench::settle();
+      ASSERT_TRUE(trait.isVisible());
+    }
+    QTest::mouseClick(&holder, Qt::LeftButton, {}, holder.actionGeometry(&action).center());
     WindowBench::settle();
     EXPECT_FALSE(menu.isVisible());
   }
@@ -73,8 +80,8 @@ struct BlocksWindowTest : testing::Test {
     QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(menu.menuAction()).center());
     WindowBench::settle();
     std::vector<std::string> found;
-    for (const QAction* action : menu.actions()) {
-      if (action->isEnabled() && !action->isSeparator())
+    for (const QAction* action : menu.actions() + trait.actions()) {
+      if (action->isEnabled() && action->menu() == nullptr)
         found.push_back(action->text().toStdString());
     }
     menu.close();
@@ -92,6 +99,7 @@ struct BlocksWindowTest : testing::Test {
   Editor& editor = bench.editor;
   GridView& tracks = static_cast<GridView&>(bench.find<QTableView>("tracks"));
   QMenu& menu = bench.find<QMenu>("menuedit");
+  QMenu& trait = bench.find<QMenu>("trait");
 };
 
 TEST_F(BlocksWindowTest, ABlockDraggedWithTheMouseIsCopiedToTheDrums) {

@@ -76,8 +76,9 @@ TEST_F(MainWindowTest, MenusHoldTheirEntriesInOrder) {
             (std::vector<std::string>{"New", "Open", "Save", "Save as", "Export as .mid", "Quit"}));
   EXPECT_EQ(bench.find<QMenu>("menuedit").title().toStdString(), "&Edit");
   EXPECT_EQ(captions("menuedit"),
-            (std::vector<std::string>{"Cut", "Copy", "Paste", "-", "Velocity: fixed value",
-                                      "Velocity: percent", "Transpose"}));
+            (std::vector<std::string>{"Cut", "Copy", "Paste", "Selected notes"}));
+  EXPECT_EQ(captions("trait"),
+            (std::vector<std::string>{"Velocity: fixed value", "Velocity: percent", "Transpose"}));
   EXPECT_EQ(bench.find<QMenu>("menuinput").title().toStdString(), "&Input device");
   EXPECT_EQ(captions("menuinput"), (std::vector<std::string>{"Ask for input device next launch"}));
   EXPECT_EQ(bench.find<QMenu>("menutrack").title().toStdString(), "&Track");
