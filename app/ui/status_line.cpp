@@ -16,8 +16,8 @@ struct SectionPlan {
 };
 
 constexpr std::array<SectionPlan, StatusLine::kSections> kPlan = {{
-    {"statusfile", 1, ""},
-    {"statusoutput", 3, ""},
+    {"statusfile", 2, ""},
+    {"statusoutput", 7, ""},
     {"statusline", 0, "Line 2999 of 3000   Beat 3000"},
     {"statuscell", 0, "Track 10 #8: G#10 velocity 127"},
     {"statusoctave", 0, "Octave +4"},

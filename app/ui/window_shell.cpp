@@ -195,7 +195,8 @@ void WindowShell::start(const std::string& song) {
 }
 
 void WindowShell::end_at_once() {
-  if (ended_) return;
+  // A box that tells why the program ends may still be waiting for its answer.
+  if (ended_) return QCoreApplication::exit(*ended_);
   recovery_.write_now();
   editor_->close_ports();
   end(0);

@@ -63,6 +63,14 @@ class Recovery(unittest.TestCase):
         self.assertEqual(window.process.wait(), 0, window.process.errors)
         self.assertEqual(self.restored(), ENTRIES + [""])
 
+    def test_a_termination_does_not_wait_for_the_answer_to_a_fault(self):
+        broken = pathlib.Path(self.home, "broken.lvx")
+        broken.write_text("2.0\r\n 1 \r\n", encoding="ascii")
+        window = self.start(broken)
+        window.window("Lunavox")
+        window.process.signal(signal.SIGTERM)
+        self.assertEqual(window.process.wait(), 1, window.process.errors)
+
     def test_an_editor_that_is_killed_loses_a_few_seconds_at_most(self):
         window = self.edit()
         jack.wait_until(self.kept_songs, "recovery file")
