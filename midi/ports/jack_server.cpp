@@ -2,6 +2,8 @@
 
 #include "midi/ports/quiet_libraries.h"
 
+#include <string_view>
+
 #include <jack/jack.h>
 
 namespace lunavox {
@@ -23,6 +25,17 @@ std::shared_ptr<JackServer> JackServer::connect() {
       server.get());
   if (jack_activate(server->client_) != 0) return nullptr;
   return server;
+}
+
+bool JackServer::connected(const std::string& port, const std::string& client) const {
+  const jack_port_t* found = jack_port_by_name(client_, port.c_str());
+  if (!found) return false;
+  const std::unique_ptr<const char*, void (*)(const char**)> others(
+      jack_port_get_all_connections(client_, found), [](const char** names) { jack_free(names); });
+  for (const char** other = others.get(); other && *other; ++other) {
+    if (std::string_view(*other).starts_with(client)) return true;
+  }
+  return false;
 }
 
 JackServer::~JackServer() {

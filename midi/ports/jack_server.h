@@ -3,6 +3,7 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
+#include <string>
 
 #include <jack/types.h>
 
@@ -22,6 +23,9 @@ class JackServer {
   bool alive() const { return alive_; }
   /// Process cycles seen since connecting.
   std::uint64_t cycles() const { return cycles_; }
+  /// Whether a port is by now connected to one of a client whose name begins so. A connection asked
+  /// for is only made when the server comes to it, and what is sent before goes nowhere.
+  bool connected(const std::string& port, const std::string& client) const;
 
  private:
   JackServer() = default;

@@ -8,8 +8,10 @@
 namespace lunavox {
 namespace {
 
-/// How long a message may wait for room in the service's queue.
-constexpr std::chrono::milliseconds kPatience{200};
+/// How long to wait for the service, which has much else to do at times.
+constexpr std::chrono::milliseconds kPatience{500};
+/// After so many process cycles, what was sent has left the queue and been read by the receiver.
+constexpr std::uint64_t kCyclesToArrive = 4;
 
 }  // namespace
 
@@ -35,7 +37,9 @@ bool RtMidiOutput::open_port() {
   const int number = port_number(out_, port_);
   if (number < 0) return false;
   out_.openPort(static_cast<unsigned>(number), "MIDI out");
-  return out_.isPortOpen() && !errors_.failed();
+  if (!out_.isPortOpen() || errors_.failed()) return false;
+  if (service_.jack) wait_for([&] { return service_.jack->connected(port_, kOutputClient); });
+  return true;
 }
 
 MidiResult RtMidiOutput::short_message(std::uint32_t packed) {
@@ -52,6 +56,7 @@ MidiResult RtMidiOutput::long_message(const SysExBytes& data) {
 MidiResult RtMidiOutput::send(std::span<const std::uint8_t> bytes) {
   if (!service_.alive()) return kPortGone;
   if (!has_room(bytes.size())) return service_.alive() ? kPortBusy : kPortGone;
+  if (service_.jack) last_send_cycle_ = service_.jack->cycles();
   errors_.clear();
   try {
     out_.sendMessage(bytes.data(), bytes.size());
@@ -63,13 +68,25 @@ MidiResult RtMidiOutput::send(std::span<const std::uint8_t> bytes) {
 
 bool RtMidiOutput::has_room(std::size_t size) {
   if (!service_.jack) return true;
+  return wait_for([&] { return guard_.admit(size, service_.jack->cycles()); });
+}
+
+/// Waits for something that the running server brings about; not long, and not for a dead one.
+template <class Condition>
+bool RtMidiOutput::wait_for(Condition condition) {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point end = Clock::now() + kPatience;
-  while (!guard_.admit(size, service_.jack->cycles())) {
+  while (!condition()) {
     if (!service_.alive() || Clock::now() >= end) return false;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
   return true;
+}
+
+RtMidiOutput::~RtMidiOutput() {
+  // A JACK port that closes takes with it what its receiver has not looked at yet.
+  if (!service_.jack) return;
+  wait_for([&] { return service_.jack->cycles() >= last_send_cycle_ + kCyclesToArrive; });
 }
 
 void RtMidiOutput::reset() {

@@ -14,6 +14,8 @@ class RtMidiOutput : public OutputDevice {
   /// Opens a port by its name, or, by an empty name, one of our own for others to connect to.
   /// @return null when the port cannot be opened
   static std::unique_ptr<RtMidiOutput> open(MidiService service, const std::string& port);
+  /// Closes the port once what was sent has arrived.
+  ~RtMidiOutput() override;
 
   MidiResult short_message(std::uint32_t packed) override;
   MidiResult prepare_header(const SysExBytes& data) override { return steps_.prepare(data); }
@@ -29,6 +31,8 @@ class RtMidiOutput : public OutputDevice {
 
   bool open_port();
   bool has_room(std::size_t size);
+  template <class Condition>
+  bool wait_for(Condition condition);
   MidiResult send(std::span<const std::uint8_t> bytes);
 
   MidiService service_;
@@ -38,6 +42,7 @@ class RtMidiOutput : public OutputDevice {
   // Asking for the ports' names changes the library's object, not the device.
   mutable RtMidiOut out_;
   JackQueueGuard guard_;
+  std::uint64_t last_send_cycle_ = 0;
   SysExSteps steps_;
 };
 

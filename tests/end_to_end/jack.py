@@ -12,7 +12,7 @@ import tempfile
 import threading
 import time
 
-PATIENCE_SECONDS = 30
+PATIENCE_SECONDS = 60
 TOOLS = ("jackd", "jack_lsp", "jack_connect", "jack_midi_dump", "jack_midiseq")
 
 
@@ -99,7 +99,9 @@ class JackServer(contextlib.ExitStack):
         # The server of the test is the only way out: no sequencer, no sound service.
         self.environment.pop("PULSE_SERVER", None)
         try:
-            self.server = self.run("jackd", "-n", name, "-r", "--no-mlock",
+            # On a busy machine, the server waits for its clients rather than leave them behind.
+            self.server = self.run("jackd", "-n", name, "-r", "--no-mlock", "--sync",
+                                   "--timeout", "5000",
                                    "-d", "dummy", "-r", "48000", "-p", "256")
             wait_until(lambda: self._ask("jack_lsp").returncode == 0, "JACK server")
         except BaseException:
