@@ -2,6 +2,7 @@
 a real MIDI transport. The server's dummy driver needs no sound card."""
 
 import contextlib
+import ctypes
 import fcntl
 import os
 import re
@@ -13,6 +14,7 @@ import threading
 import time
 
 PATIENCE_SECONDS = 60
+SECONDS_TO_END = 1
 TOOLS = ("jackd", "jack_lsp", "jack_connect", "jack_midi_dump", "jack_midiseq")
 
 
@@ -31,13 +33,19 @@ def wait_until(holds, what):
     raise AssertionError(f"in {PATIENCE_SECONDS} s there was no {what}")
 
 
+def end_with_parent():
+    """Has the calling child process killed when the test is, lest a server of the test lives on."""
+    set_parent_death_signal = 1
+    ctypes.CDLL(None).prctl(set_parent_death_signal, signal.SIGKILL)
+
+
 class Process:
     """A child process whose output lines are gathered as they come."""
 
     def __init__(self, command, environment):
         self.command = command
         self.process = subprocess.Popen(
-            command, env=environment, text=True, bufsize=1,
+            command, env=environment, text=True, bufsize=1, preexec_fn=end_with_parent,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         self.lines, self.errors = [], []
         self._readers = [self._reader(self.process.stdout, self.lines),
@@ -64,8 +72,8 @@ class Process:
         if self.process.poll() is None:
             self.process.terminate()
             try:
-                self.process.wait(PATIENCE_SECONDS)
-            except subprocess.TimeoutExpired:
+                self.process.wait(SECONDS_TO_END)
+            except subprocess.TimeoutExpired:  # jack_midi_dump, when nothing arrives any more
                 self.process.kill()
         self.wait()
         self.process.stdout.close()
@@ -91,6 +99,14 @@ def lock_server_name(stack):
 class JackServer(contextlib.ExitStack):
     """A running server; ends, with all its clients, at the end of the with block."""
 
+    # Never leaves a client behind on a busy machine, so that nothing is lost. A client that is
+    # killed makes it wait.
+    PATIENT = ("--sync", "--timeout", "5000")
+
+    def __init__(self, *options):
+        super().__init__()
+        self.options = options
+
     def __enter__(self):
         super().__enter__()
         name = lock_server_name(self)
@@ -99,9 +115,7 @@ class JackServer(contextlib.ExitStack):
         # The server of the test is the only way out: no sequencer, no sound service.
         self.environment.pop("PULSE_SERVER", None)
         try:
-            # On a busy machine, the server waits for its clients rather than leave them behind.
-            self.server = self.run("jackd", "-n", name, "-r", "--no-mlock", "--sync",
-                                   "--timeout", "5000",
+            self.server = self.run("jackd", "-n", name, "-r", "--no-mlock", *self.options,
                                    "-d", "dummy", "-r", "48000", "-p", "256")
             wait_until(lambda: self._ask("jack_lsp").returncode == 0, "JACK server")
         except BaseException:

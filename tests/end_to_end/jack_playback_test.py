@@ -52,7 +52,7 @@ def first_note(messages):
 
 class JackPlayback(unittest.TestCase):
     def setUp(self):
-        self.server = jack.JackServer().__enter__()
+        self.server = jack.JackServer(*jack.JackServer.PATIENT).__enter__()
         self.addCleanup(self.server.close)
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
