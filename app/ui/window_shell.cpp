@@ -72,8 +72,12 @@ void WindowShell::tie() {
   screen_dialogs_.set_window(window_.get());
   progress_.set_window(window_.get());
   e.notequeue.set_wake([this] { driver_.wake(); });
-  e.shell = {[this](int status) { end(status); }, [this] { drum_kit_->open(); },
-             [this] { instrument_->open(); }, [this] { window_->focus_tracks(); }};
+  const auto end_early = [this](int status) {
+    recovery_.write_now();
+    end(status);
+  };
+  e.shell = {end_early, [this] { drum_kit_->open(); }, [this] { instrument_->open(); },
+             [this] { window_->focus_tracks(); }};
   count_in_->set_hooks([&e] { e.realtime_loop.cancel(); }, [this] { window_->focus_tracks(); });
   start_up_.set_hooks({[this](const std::vector<std::string>& names) { choose_input(names); },
                        [this] { window_->refresh_status(); }});

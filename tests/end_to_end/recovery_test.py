@@ -30,9 +30,9 @@ class Recovery(unittest.TestCase):
         state = pathlib.Path(self.home, "state")
         return [file for file in state.rglob("recovery-*") if file.suffix != ".lock"]
 
-    def edit(self):
+    def edit(self, *options):
         """An editor with three recorded notes that are not saved."""
-        window = self.start().ready()
+        window = self.start(*options).ready()
         window.key("space", *TUNE)
         window.wait_for_notes(len(TUNE))
         return window
@@ -107,16 +107,27 @@ class Recovery(unittest.TestCase):
         self.assertEqual(self.kept_songs(), [])
 
 
-class BrokenSoundFont(unittest.TestCase):
-    def test_the_window_tells_and_ends(self):
-        with editor.stage() as (server, home):
-            broken = pathlib.Path(home, "broken.sf2")
-            broken.write_text("no sounds", encoding="ascii")
-            window = editor.Editor(server, LUNAVOX, home, "--input", "virtual", "--output", "0",
-                                   "--soundfont", broken)
-            for _ in range(2):  # what is wrong with it, and that there is no output
-                window.window("Error").key("Return")
-            self.assertEqual(window.process.wait(), 1)
+    def test_an_output_that_cannot_be_opened_ends_the_editor_and_keeps_unsaved_work(self):
+        window = self.edit("--soundfont", self.broken_soundfont())
+        window.key("alt+o", "Down", "Return")  # the built-in synthesiser
+        self.end_without_output(window)
+        self.assertEqual(self.restored(), ENTRIES + [""])
+
+    def test_a_broken_soundfont_is_told_at_the_start(self):
+        window = editor.Editor(self.server, LUNAVOX, self.home, "--input", "virtual",
+                               "--output", "0", "--soundfont", self.broken_soundfont())
+        self.end_without_output(window)
+        self.assertEqual(self.kept_songs(), [])
+
+    def broken_soundfont(self):
+        broken = pathlib.Path(self.home, "broken.sf2")
+        broken.write_text("no sounds", encoding="ascii")
+        return broken
+
+    def end_without_output(self, window):
+        for _ in range(2):  # what is wrong with it, and that there is no output
+            window.window("Error").key("Return")
+        self.assertEqual(window.process.wait(), 1, window.process.errors)
 
 
 if __name__ == "__main__":
