@@ -1,0 +1,369 @@
+#include "random_user.h"
+
+#include "files/song_writer.h"
+#include "grid/runtime_error.h"
+
+#include <algorithm>
+#include <array>
+#include <ostream>
+
+namespace lunavox::test {
+namespace {
+
+/// A key: its virtual-key code and the character that it makes.
+struct Key {
+  int code;
+  const char* character;
+};
+
+constexpr std::array kKeys = {
+    Key{'Q', "q"}, Key{'W', "w"}, Key{'2', "2"}, Key{'5', "5"}, Key{'0', "0"}, Key{'9', "9"},
+    Key{'Z', "z"}, Key{'X', "x"}, Key{'M', "m"}, Key{'U', "u"}, Key{191, "/"}, Key{8, "\b"},
+    Key{13, "\r"}, Key{46, ""},   Key{226, "<"}, Key{32, " "},  Key{17, ""},   Key{113, ""},
+    Key{115, ""},  Key{118, ""},  Key{186, ";"}, Key{190, "."}, Key{188, ","}, Key{221, "é"},
+    Key{'1', "1"}, Key{'4', "4"}, Key{'7', "7"}, Key{'3', "3"}, Key{'6', "6"}, Key{13, "\r"},
+};
+
+constexpr std::array kAnswers = {"12", "-7",  "64",   "127", "0", "1",   "400", "",    "90",
+                                 "x",  "3.5", "-200", "33",  "5", "110", "1e9", "128", "40"};
+
+constexpr std::array kFieldTexts = {"2",  "8", "16", "120", "5",   "0",  "1", "12,5", "4",
+                                    "33", "3", "-1", "abc", "300", "48", "",  "7",    "31"};
+
+// How often a user does each deed, in its order among the deeds.
+constexpr std::array<int, kDeeds> kWeights = {24, 14, 1, 12, 8, 7, 14, 6, 3,  2, 2, 3, 2, 6, 2, 2,
+                                              3,  2,  1, 2,  2, 6, 6,  8, 14, 1, 1, 1, 1, 1, 1};
+
+template <class Table>
+auto pick(const Table& table, int number) {
+  return table[static_cast<std::size_t>(number) % table.size()];
+}
+
+constexpr const char* kSongName = "tune.lvx";
+
+}  // namespace
+
+std::ostream& operator<<(std::ostream& out, const Action& action) {
+  return out << "{Deed(" << static_cast<int>(action.deed) << "), " << action.a << ", " << action.b
+             << "},";
+}
+
+Action random_action(std::mt19937& chance) {
+  // The standard's distributions differ between libraries: a seed is to mean the same everywhere.
+  constexpr int kMostNumber = 1000;
+  int sum = 0;
+  for (const int weight : kWeights) sum += weight;
+  int left = static_cast<int>(chance() % static_cast<unsigned>(sum));
+  std::size_t deed = 0;
+  while (left >= kWeights[deed]) left -= kWeights[deed++];
+  const int a = static_cast<int>(chance() % kMostNumber);
+  const int b = static_cast<int>(chance() % kMostNumber);
+  return {static_cast<Deed>(deed), a, b};
+}
+
+RandomUser::RandomUser()
+    : recent_(bench_.folder.file("recent")),
+      files_(
+          {bench_.editor.song, bench_.editor.flags, bench_.editor.tracks, bench_.editor.song_length,
+           bench_.editor.song_file, bench_.editor.midi_export, recent_, bench_.dialogs},
+          "readme.htm") {
+  Editor& e = bench_.editor;
+  files_.set_hooks({[&e] {
+                      if (e.flags.playing) e.transport.playnotes_mouseup();
+                    },
+                    {},
+                    {},
+                    [&e] { e.voice_name.refresh(); }});
+  e.shell.choose_drum_kit = [this] { bench_.editor.drum_choice.drumok_click(voice_.column); };
+  e.shell.choose_instrument = [this] {
+    VoiceChoice& choice = bench_.editor.voice_choice;
+    choice.instrulist_mousedown(voice_);
+    choice.instrulist_mouseup();
+    choice.instruok_click(voice_);
+  };
+  bench_.inputs.device_names = {"Keyboard"};
+  bench_.start();
+  bench_.start_up.getinputid(0);
+  bench_.output.calls.clear();
+}
+
+std::string RandomUser::act(const Action& action) {
+  wrong_.clear();
+  prepare_answers(action);
+  try {
+    perform(action);
+  } catch (const RuntimeError& error) {
+    expect(false, std::string("no rule throws here: ") + error.what());
+  }
+  listen_for_stop();
+  return wrong_;
+}
+
+void RandomUser::prepare_answers(const Action& action) {
+  ScriptedDialogs& dialogs = bench_.dialogs;
+  dialogs.messages.clear();
+  dialogs.questions.clear();
+  dialogs.opened.clear();
+  dialogs.saved.clear();
+  bench_.progress.shown.clear();
+  bench_.inputs.calls.clear();
+  dialogs.inputs = {pick(kAnswers, action.b)};
+  dialogs.answers = {Answer::kNo};
+  dialogs.files = {bench_.folder.file(kSongName)};
+  voice_ = {action.b % 128, action.b % kNoteColumns};
+}
+
+void RandomUser::perform(const Action& action) {
+  Editor& e = bench_.editor;
+  CellGrid& grid = e.song.tracks;
+  const int row = 1 + action.a % e.song.last_row();
+  switch (action.deed) {
+    case Deed::kPressKey:
+      return press_key(action.a);
+    case Deed::kReleaseKey:
+      return release_key(action.a);
+    case Deed::kLoseKeys:
+      return e.note_keys.release_all();
+    case Deed::kMoveCursor:
+      return grid.set_cursor(row, 1 + action.b % (grid.columns() - 1));
+    case Deed::kEnterEffectCell:
+      return grid.set_cursor(row, effect_column_of(1 + action.b % e.song.track_count));
+    case Deed::kSelect:
+      return select(action.a, action.b);
+    case Deed::kClickEffects:
+      return e.curves.effects_click(action.a % e.song.effects.columns(), action.b % kEffectSlots);
+    case Deed::kEnterField:
+      return enter_field(action.a, action.b);
+    case Deed::kTickOption:
+      return tick_option(action.a);
+    case Deed::kAddTrack:
+      return e.tracks.addinstrutrack();
+    case Deed::kDeleteTrack:
+      return e.tracks.menudeltrack_click();
+    case Deed::kCopy:
+      return e.clipboard.copyproc();
+    case Deed::kCut:
+      return e.clipboard.cutproc();
+    case Deed::kPaste:
+      return e.clipboard.pasteproc();
+    case Deed::kVelocityValue:
+      return e.block_tools.velovalue();
+    case Deed::kVelocityPercent:
+      return e.block_tools.velopercent();
+    case Deed::kTranspose:
+      return e.block_tools.transproc();
+    case Deed::kAddBookmark:
+      e.bookmarks.image1_mousedown();
+      return e.bookmarks.image1_mouseup();
+    case Deed::kDeleteBookmark:
+      e.bookmarks.image2_mousedown();
+      return e.bookmarks.image2_mouseup();
+    case Deed::kGoToBookmark:
+      return e.bookmarks.bookmark_click(action.a % 4);
+    case Deed::kChooseXg:
+      if (action.a % 3 == 0) return e.xg_effects.reverb_click(action.b % 5);
+      if (action.a % 3 == 1) return e.xg_effects.chorus_click(action.b % 5);
+      return e.xg_effects.variation_click(action.b % 5);
+    case Deed::kPlay:
+      e.transport.playnotes_mousedown();
+      return e.transport.playnotes_mouseup();
+    case Deed::kRecord:
+      e.recorder.recordnotes_mousedown();
+      return e.recorder.recordnotes_click();
+    case Deed::kReceive:
+      return receive(action.a, action.b);
+    case Deed::kWait:
+      return wait(action.a);
+    case Deed::kNew:
+      return files_.menunew_click();
+    case Deed::kOpen:
+      return open(false);
+    case Deed::kOpenOver:
+      return open(true);
+    case Deed::kSave:
+    case Deed::kSaveAs:
+      if (action.deed == Deed::kSave) files_.menusave_click();
+      if (action.deed == Deed::kSaveAs) files_.menusaveas_click();
+      saved_tracks_ = e.song.track_count;
+      return;
+    case Deed::kSaveNowhere:
+      return save_nowhere();
+  }
+}
+
+void RandomUser::press_key(int key) {
+  Editor& e = bench_.editor;
+  const Key pressed = pick(kKeys, key);
+  // As the window does: it sees keys before the grid, and the grid asks what its keys are.
+  e.transport.key_down(pressed.code);
+  if (e.typing_mode.typing()) {
+    e.typing_mode.key_press(pressed.character);
+  } else {
+    e.note_keys.keystart(pressed.code);
+  }
+  listen_for_stop();
+  pass();
+}
+
+void RandomUser::release_key(int key) {
+  Editor& e = bench_.editor;
+  if (!e.typing_mode.typing()) e.note_keys.keystop(pick(kKeys, key).code);
+  pass();
+}
+
+void RandomUser::select(int rows, int columns) {
+  CellGrid& grid = bench_.editor.song.tracks;
+  const int row = std::clamp(grid.row() + rows % 9 - 4, 1, grid.rows() - 1);
+  const int column = std::clamp(grid.column() + columns % 7 - 3, 1, grid.columns() - 1);
+  grid.set_selection_end(row, column);
+}
+
+void RandomUser::enter_field(int field, int text) {
+  Editor& e = bench_.editor;
+  const std::string entry = pick(kFieldTexts, text);
+  switch (field % 6) {
+    case 0:
+      e.song_length.bpm_change(entry);
+      return;
+    case 1:
+      e.song_length.length_validate(entry);
+      return;
+    case 2:
+      e.song_length.number_change(entry);
+      return;
+    case 3:
+      e.song_length.step_change(entry);
+      return;
+    case 4:
+      e.song_length.strength_change(entry);
+      return;
+    default:
+      e.options.before_change(entry, bench_.dialogs);
+  }
+}
+
+void RandomUser::tick_option(int option) {
+  RecordOptions& options = bench_.editor.options;
+  const std::array<Property<bool>*, 5> boxes = {
+      &options.realtime, &options.begin, &options.velocity, &options.curs, &options.metronome};
+  Property<bool>& box = *pick(boxes, option);
+  box = !box.get();
+}
+
+void RandomUser::receive(int note, int velocity) {
+  constexpr std::array<std::uint32_t, 4> kStatuses = {0x90, 0x93, 0x80, 0xB0};
+  const auto data1 = static_cast<std::uint32_t>(note % 128);
+  const auto data2 = static_cast<std::uint32_t>(velocity % 128);
+  bench_.inputs.play(data2 << 16 | data1 << 8 | pick(kStatuses, note / 128));
+  pass();
+}
+
+void RandomUser::wait(int ms) {
+  for (int step = 0; step < 5; ++step) {
+    bench_.clock.advance(static_cast<std::uint32_t>(ms / 5));
+    pass();
+  }
+}
+
+void RandomUser::open(bool over) {
+  if (saved_tracks_ == 0) return;
+  Editor& e = bench_.editor;
+  if (!over) files_.menunew_click();
+  bench_.dialogs.answers = {Answer::kNo};
+  // A file is read for all tracks of the song: one with fewer tracks ends too early for it.
+  const bool too_short = saved_tracks_ < e.song.track_count;
+  e.typing_mode.finish();
+  const std::string before = song_text(e.song, TextGuard::kNone, {});
+  bool thrown = false;
+  try {
+    files_.menuopen_click();
+  } catch (const RuntimeError&) {
+    thrown = true;
+  }
+  expect(thrown == too_short, "opening throws where the file has fewer tracks, and only there");
+  if (thrown) {
+    expect(song_text(e.song, TextGuard::kNone, {}) == before, "a failed opening changes nothing");
+  } else if (too_short) {
+    files_.menunew_click();
+  }
+}
+
+void RandomUser::save_nowhere() {
+  const std::string before = bench_.editor.song_file.current_name;
+  bench_.dialogs.files = {bench_.folder.file("no such folder/tune.lvx")};
+  bool thrown = false;
+  try {
+    files_.menusaveas_click();
+  } catch (const RuntimeError&) {
+    thrown = true;
+  }
+  expect(thrown, "saving into a folder that is not there throws");
+  expect(bench_.editor.song_file.current_name.get() == before, "a failed save keeps the name");
+}
+
+void RandomUser::pass() {
+  bench_.editor.current_loop.get()->pass(bench_.clock.timeGetTime());
+  listen_for_stop();
+}
+
+void RandomUser::listen_for_stop() {
+  const Editor& e = bench_.editor;
+  ear_.hear(bench_.output.calls);
+  bench_.output.calls.clear();
+  // Realtime recording leaves what is held sounding until it is released.
+  const bool playing_song = e.flags.playing && e.current_loop.is(e.play_loop);
+  if (playing_song_ && !playing_song) {
+    expect(ear_.silent(), "a stop leaves no note sounding, but there is" + ear_.sounding());
+  }
+  playing_song_ = playing_song;
+}
+
+void RandomUser::expect(bool held, const std::string& what) {
+  if (!held && wrong_.empty()) wrong_ = what;
+}
+
+std::string RandomUser::compare_reopened() {
+  Editor& e = bench_.editor;
+  const std::string text = song_text(e.song, TextGuard::kNone, {});
+  EditorBench other;
+  other.start();
+  other.editor.song_file.current_name = other.folder.write("again.lvx", text);
+  try {
+    other.editor.song_file.procopen();
+    other.editor.song_file.procsave();
+  } catch (const RuntimeError& error) {
+    return std::string("a saved song opens again: ") + error.what();
+  }
+  return other.folder.read("again.lvx") == text ? "" : "a song that is opened saves as it was";
+}
+
+void Ear::hear(const std::vector<RecordingOutput::Call>& calls) {
+  for (const RecordingOutput::Call& call : calls) {
+    if (call.kind == RecordingOutput::Call::kShort) hear(call.packed);
+    if (call.kind == RecordingOutput::Call::kReset) sounding_.clear();
+  }
+}
+
+void Ear::hear(std::uint32_t packed) {
+  const auto channel = static_cast<int>(packed & 0xFU);
+  const auto status = packed & 0xF0U;
+  const auto data1 = static_cast<int>(packed >> 8 & 0xFFU);
+  const bool loud = packed > 0xFFFF;
+  if (status == 0x90 && loud) sounding_.insert({channel, data1});
+  if (status == 0x80 || (status == 0x90 && !loud)) sounding_.erase({channel, data1});
+  if (status == 0xB0 && (data1 == 120 || data1 == 123)) silence(channel);
+}
+
+void Ear::silence(int channel) {
+  std::erase_if(sounding_, [&](const auto& note) { return note.first == channel; });
+}
+
+std::string Ear::sounding() const {
+  std::string notes;
+  for (const auto& [channel, note] : sounding_) {
+    notes += " " + std::to_string(note) + " on channel " + std::to_string(channel);
+  }
+  return notes;
+}
+
+}  // namespace lunavox::test
