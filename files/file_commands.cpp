@@ -93,8 +93,10 @@ void FileCommands::menuopen_click() {
   open(desk_.dialogs.open_file(kOpenQuestion));
 }
 
-void FileCommands::open_path(const std::string& name) {
+void FileCommands::open_path(const std::string& given) {
   std::error_code none;
+  // The name outlives this run in the recovery file, and the next run may start in another folder.
+  const std::string name = fs::absolute(given, none).string();
   if (!fs::exists(name, none)) {
     desk_.dialogs.error("File not found: " + name, "Open");
     desk_.recent.remove(name);
@@ -148,6 +150,7 @@ void FileCommands::save_as(const std::string& name) {
 void FileCommands::menuexport_click() {
   desk_.exporter.export_name = chosen_name(kExportQuestion, ".mid");
   if (desk_.exporter.export_name.get().empty()) return;
+  desk_.recent.set_last_folder(desk_.exporter.export_name);
   stop_playing();
   desk_.exporter.procexport();
 }

@@ -62,7 +62,8 @@ class FileCommands {
 
   /// Opens a song that was dropped on the window, chosen from the recent files or named on the
   /// command line, after the save question. A file that is not there is told and leaves the list.
-  void open_path(const std::string& name);
+  /// @param given  may be relative to the working folder; the song has its whole name
+  void open_path(const std::string& given);
 
   /// Asks whether to save, when there is something to save. What becomes of the saving is not
   /// looked at.

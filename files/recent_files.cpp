@@ -35,6 +35,7 @@ void RecentFiles::load() {
 
 void RecentFiles::add(const std::string& name) {
   const std::string whole = whole_name(name);
+  other_folder_.clear();
   names.update([&](std::vector<std::string>& list) {
     std::erase(list, whole);
     list.insert(list.begin(), whole);
@@ -49,7 +50,12 @@ void RecentFiles::remove(const std::string& name) {
   store();
 }
 
+void RecentFiles::set_last_folder(const std::string& file) {
+  other_folder_ = fs::path(whole_name(file)).parent_path().string();
+}
+
 std::string RecentFiles::last_folder() const {
+  if (!other_folder_.empty()) return other_folder_;
   if (names.get().empty()) return {};
   return fs::path(names.get().front()).parent_path().string();
 }

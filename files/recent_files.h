@@ -26,13 +26,17 @@ class RecentFiles {
   void add(const std::string& name);
   void remove(const std::string& name);
 
-  /// The folder of the latest song, empty where there is none: where file dialogs begin.
+  /// The folder of the file that was last opened, saved or exported, empty where there is none:
+  /// where file dialogs begin.
   std::string last_folder() const;
+  /// A file that is no song was written: file dialogs begin in its folder, until the program ends.
+  void set_last_folder(const std::string& file);
 
  private:
   void store() const;
 
   std::filesystem::path file_;
+  std::string other_folder_;  ///< of a later file than the latest song, else empty
 };
 
 }  // namespace lunavox

@@ -88,7 +88,7 @@ void RecoveryFile::choose_name() {
     lock_.emplace(std::move(lock));
     return;
   }
-  problem_ = "The song cannot be kept in " + folder_.string();
+  problem_ = "No file can be made in " + folder_.string();
 }
 
 void RecoveryFile::listen_to_changes() {
@@ -137,6 +137,7 @@ std::optional<std::uint32_t> RecoveryFile::next_due() const {
 void RecoveryFile::pass(std::uint32_t now) {
   if (!next_due() || elapsed_ms(*changed_at_, now) < kDelayMs) return;
   changed_at_.reset();
+  problem_.clear();
   writer_->write(song_, song_file_.current_name);
 }
 

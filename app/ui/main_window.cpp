@@ -34,6 +34,13 @@ constexpr NumberPanel::Field kNumber{"Frame3", "LPB", "number", "Lines a beat", 
 constexpr NumberPanel::Field kStep{"Frame5", "Rec step", "step",
                                    "Lines that the cursor moves down after an entry", 2};
 
+/// The file that is dragged, empty where it is none or where a box waits for its answer.
+QString dragged_song(const QMimeData& data) {
+  const QList<QUrl> files = data.urls();
+  if (files.isEmpty() || QApplication::activeModalWidget() != nullptr) return {};
+  return files.first().toLocalFile();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(const WindowModel& model, const WindowCommands& commands)
@@ -145,13 +152,14 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+  if (!dragged_song(*event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-  const QList<QUrl> files = event->mimeData()->urls();
+  const std::string song = dragged_song(*event->mimeData()).toStdString();
   event->acceptProposedAction();
-  if (!files.isEmpty()) commands_.open_song(files.first().toLocalFile().toStdString());
+  // Not yet: whoever drags waits for the end of the drop, and opening may ask a question.
+  QTimer::singleShot(0, this, [this, song] { commands_.open_song(song); });
 }
 
 void MainWindow::restore_place() {
@@ -191,7 +199,13 @@ void MainWindow::show_devices() {
   for (const OutputItem& item : model_.outputdev.items.get()) {
     if (item.checked) name = QString::fromStdString(item.caption);
   }
-  if (!input.empty()) {
+  const std::string unkept =
+      commands_.keeping_problem ? commands_.keeping_problem() : std::string();
+  if (!unkept.empty()) {
+    status_->show_warning(
+        StatusLine::kOutput,
+        QStringLiteral("Unsaved work is not kept: %1").arg(QString::fromStdString(unkept)));
+  } else if (!input.empty()) {
     status_->show_warning(StatusLine::kOutput, QString::fromStdString(input));
   } else if (!output.empty()) {
     status_->show_warning(StatusLine::kOutput,

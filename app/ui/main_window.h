@@ -51,6 +51,8 @@ struct WindowCommands {
   std::function<bool()> quit;
   std::function<void(const std::string& name)> open_song;  ///< a file was dropped on the window
   std::function<std::string()> input_status;
+  /// Why unsaved work would be lost if the program ended now; empty when it would not.
+  std::function<std::string()> keeping_problem;
   /// Takes MIDI devices up again that have come back. Called once a second.
   std::function<void()> look_after_devices;
 };

@@ -112,6 +112,7 @@ WindowCommands WindowShell::window_commands() {
           [this] { return quit(); },
           [this](const std::string& name) { file_commands_.open_path(name); },
           [&e] { return e.input.status(); },
+          [this] { return recovery_.problem(); },
           [&e] {
             e.input.look_after();
             if (e.output.device() != nullptr) e.output.device()->look_after();
@@ -210,12 +211,16 @@ void WindowShell::end_on_fault(const std::string& text) {
   if (ended_) return;
   ended_ = 1;
   editor_->current_loop.set(nullptr);
-  const bool kept = recovery_.write_now();
-  dialogs_.error(
-      kept ? text + "\n\nThe song as it stands is kept. Lunavox offers it at the next start."
-           : text);
+  dialogs_.error(text + "\n\nLunavox has to end." + kept_song());
   // Last: no box can be shown any more after it.
   end(1);
+}
+
+// Keeps the song for the next start, and says what has become of it.
+std::string WindowShell::kept_song() {
+  if (!editor_->flags.modified) return {};
+  if (recovery_.write_now()) return " The song as it stands is kept and offered at the next start.";
+  return " The song as it stands could not be kept: " + recovery_.problem();
 }
 
 void WindowShell::end(int status) {

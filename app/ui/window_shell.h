@@ -67,6 +67,7 @@ class WindowShell {
   bool quit();
   void show_record_options();
   void keep_song();
+  std::string kept_song();
 
   ProgramFolders folders_;
   Clock& clock_;

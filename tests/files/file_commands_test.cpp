@@ -309,6 +309,13 @@ TEST_F(FileMenu, APathIsOpenedAfterTheSaveQuestion) {
   EXPECT_EQ(bench.song.length.text(), "32");
 }
 
+TEST_F(FileMenu, ASongHasItsWholeNameHoweverItWasGiven) {
+  const std::string name = other_song("other.lvx", "32");
+  commands.open_path(std::filesystem::relative(name).string());
+  EXPECT_EQ(std::filesystem::path(bench.file.current_name.get()).lexically_normal(), name);
+  EXPECT_TRUE(std::filesystem::path(bench.file.current_name.get()).is_absolute());
+}
+
 TEST_F(FileMenu, APathThatIsNotThereLeavesTheRecentFiles) {
   recent.add(folder.file("gone.lvx"));
   commands.open_path(folder.file("gone.lvx"));

@@ -29,6 +29,18 @@ TEST(RecentFiles, EightAreKept) {
   EXPECT_THAT(recent.names.get(), ElementsAre("/9", "/8", "/7", "/6", "/5", "/4", "/3", "/2"));
 }
 
+TEST(RecentFiles, TheLastFolderIsThatOfTheLatestFileOfAnyKind) {
+  const TempFolder folder;
+  RecentFiles recent(folder.file("recent"));
+  EXPECT_EQ(recent.last_folder(), "");
+  recent.add("/songs/a.lvx");
+  EXPECT_EQ(recent.last_folder(), "/songs");
+  recent.set_last_folder("/exports/a.mid");
+  EXPECT_EQ(recent.last_folder(), "/exports");
+  recent.add("/songs/a.lvx");
+  EXPECT_EQ(recent.last_folder(), "/songs");
+}
+
 TEST(RecentFiles, AreThereAtTheNextStart) {
   const TempFolder folder;
   RecentFiles(folder.file("settings/recent")).add("/songs/a, b.lvx");

@@ -272,7 +272,7 @@ TEST_F(Recovery, AStateFolderThatCannotBeMadeIsToldAndHoldsNothingUp) {
   desk.edit();
   desk.pass_after(3000);
   EXPECT_FALSE(desk.recovery.write_now());
-  EXPECT_EQ(desk.recovery.problem(), "The song cannot be kept in " + folder.file("file"));
+  EXPECT_EQ(desk.recovery.problem(), "No file can be made in " + folder.file("file"));
   desk.recovery.end();
 }
 

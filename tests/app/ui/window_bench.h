@@ -4,20 +4,25 @@
 #include "tests/support/recording_output.h"
 #include "tests/support/scripted_dialogs.h"
 #include "tests/support/scripted_inputs.h"
+#include "tests/support/temp_folder.h"
 
 #include <QTest>
 #include <QTimer>
 
 namespace lunavox::test {
 
-/// The whole editor with its window, on recorded devices and a clock that is set by hand. What the
-/// editor tells and asks is answered from a script.
+/// The whole editor with its window, on recorded devices and a clock that is set by hand, in a home
+/// of its own. What the editor tells and asks is answered from a script.
 struct WindowBench {
+  enum class Boxes { kScripted, kShown };
+
   /// @param keyboard  the layout set that the keys' places stand for
   /// @param input     the name of the one MIDI input; empty for a machine without
+  /// @param boxes     shown: what the editor tells and asks stands on the screen
   explicit WindowBench(int track_count = 1, LayoutSet keyboard = LayoutSet::kQwerty,
-                       const std::string& input = {})
-      : inputs(input.empty() ? std::vector<std::string>() : std::vector{input}),
+                       const std::string& input = {}, Boxes boxes = Boxes::kScripted)
+      : shown_boxes(boxes == Boxes::kShown),
+        inputs(input.empty() ? std::vector<std::string>() : std::vector{input}),
         wishes{std::nullopt, input.empty() ? std::nullopt : std::optional(input), keyboard} {
     window.resize(1024, 768);
     shell.start("");
@@ -67,17 +72,19 @@ struct WindowBench {
     return *object;
   }
 
-  static ProgramFolders folders() {
+  ProgramFolders folders() const {
     const std::filesystem::path source = LUNAVOX_SOURCE_DIR;
-    return {source / "data", source / "skin", "/nonexistent", "/nonexistent"};
+    return {source / "data", source / "skin", home.path() / "config", home.path() / "state"};
   }
 
+  const bool shown_boxes;
+  TempFolder home;
   RecordingOutput outputs;
   ScriptedInputs inputs;
   ManualClock clock;
   ScriptedDialogs dialogs;
   StartUp::Wishes wishes;
-  WindowShell shell{{outputs, inputs, clock, folders()}, wishes, &dialogs};
+  WindowShell shell{{outputs, inputs, clock, folders()}, wishes, shown_boxes ? nullptr : &dialogs};
   Editor& editor = shell.editor();
   MainWindow& window = shell.window();
 };
