@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/editor.h"
-#include "random_user.h"
+#include "user_action.h"
 
 #include <set>
 #include <string>

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <array>
-#include <ostream>
+#include <string>
 
 namespace lunavox::test {
 namespace {
@@ -30,10 +30,6 @@ constexpr std::array kAnswers = {"12", "-7",  "64",   "127", "0", "1",   "400", 
 constexpr std::array kFieldTexts = {"2",  "8", "16", "120", "5",   "0",  "1", "12,5", "4",
                                     "33", "3", "-1", "abc", "300", "48", "",  "7",    "31"};
 
-// How often a user does each deed, in its order among the deeds.
-constexpr std::array<int, kDeeds> kWeights = {24, 14, 1, 12, 8, 7, 14, 6, 3,  2, 2, 3, 2, 6, 2, 2,
-                                              3,  2,  1, 2,  2, 6, 6,  8, 14, 1, 1, 1, 1, 1, 1};
-
 template <class Table>
 auto pick(const Table& table, int number) {
   return table[static_cast<std::size_t>(number) % table.size()];
@@ -42,24 +38,6 @@ auto pick(const Table& table, int number) {
 constexpr const char* kSongName = "tune.lvx";
 
 }  // namespace
-
-std::ostream& operator<<(std::ostream& out, const Action& action) {
-  return out << "{Deed(" << static_cast<int>(action.deed) << "), " << action.a << ", " << action.b
-             << "},";
-}
-
-Action random_action(std::mt19937& chance) {
-  // The standard's distributions differ between libraries: a seed is to mean the same everywhere.
-  constexpr int kMostNumber = 1000;
-  int sum = 0;
-  for (const int weight : kWeights) sum += weight;
-  int left = static_cast<int>(chance() % static_cast<unsigned>(sum));
-  std::size_t deed = 0;
-  while (left >= kWeights[deed]) left -= kWeights[deed++];
-  const int a = static_cast<int>(chance() % kMostNumber);
-  const int b = static_cast<int>(chance() % kMostNumber);
-  return {static_cast<Deed>(deed), a, b};
-}
 
 RandomUser::RandomUser()
     : recent_(bench_.folder.file("recent")),
@@ -335,35 +313,6 @@ std::string RandomUser::compare_reopened() {
     return std::string("a saved song opens again: ") + error.what();
   }
   return other.folder.read("again.lvx") == text ? "" : "a song that is opened saves as it was";
-}
-
-void Ear::hear(const std::vector<RecordingOutput::Call>& calls) {
-  for (const RecordingOutput::Call& call : calls) {
-    if (call.kind == RecordingOutput::Call::kShort) hear(call.packed);
-    if (call.kind == RecordingOutput::Call::kReset) sounding_.clear();
-  }
-}
-
-void Ear::hear(std::uint32_t packed) {
-  const auto channel = static_cast<int>(packed & 0xFU);
-  const auto status = packed & 0xF0U;
-  const auto data1 = static_cast<int>(packed >> 8 & 0xFFU);
-  const bool loud = packed > 0xFFFF;
-  if (status == 0x90 && loud) sounding_.insert({channel, data1});
-  if (status == 0x80 || (status == 0x90 && !loud)) sounding_.erase({channel, data1});
-  if (status == 0xB0 && (data1 == 120 || data1 == 123)) silence(channel);
-}
-
-void Ear::silence(int channel) {
-  std::erase_if(sounding_, [&](const auto& note) { return note.first == channel; });
-}
-
-std::string Ear::sounding() const {
-  std::string notes;
-  for (const auto& [channel, note] : sounding_) {
-    notes += " " + std::to_string(note) + " on channel " + std::to_string(channel);
-  }
-  return notes;
 }
 
 }  // namespace lunavox::test

@@ -1,83 +1,14 @@
 #pragma once
 
+#include "ear.h"
 #include "files/file_commands.h"
 #include "files/recent_files.h"
 #include "tests/support/editor_bench.h"
+#include "user_action.h"
 
-#include <iosfwd>
-#include <optional>
-#include <random>
-#include <set>
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace lunavox::test {
-
-/// What a random user can do.
-enum class Deed {
-  kPressKey,
-  kReleaseKey,
-  kLoseKeys,
-  kMoveCursor,
-  kEnterEffectCell,
-  kSelect,
-  kClickEffects,
-  kEnterField,
-  kTickOption,
-  kAddTrack,
-  kDeleteTrack,
-  kCopy,
-  kCut,
-  kPaste,
-  kVelocityValue,
-  kVelocityPercent,
-  kTranspose,
-  kAddBookmark,
-  kDeleteBookmark,
-  kGoToBookmark,
-  kChooseXg,
-  kPlay,
-  kRecord,
-  kReceive,
-  kWait,
-  kNew,
-  kOpen,
-  kOpenOver,
-  kSave,
-  kSaveAs,
-  kSaveNowhere,
-};
-inline constexpr int kDeeds = static_cast<int>(Deed::kSaveNowhere) + 1;
-
-/// One thing done. Its numbers are brought into the range that the editor offers at that time, so
-/// that an action stays possible when those before it are left out.
-struct Action {
-  Deed deed = Deed::kWait;
-  int a = 0;
-  int b = 0;
-};
-using Script = std::vector<Action>;
-
-/// As it is written in a test that replays it.
-std::ostream& operator<<(std::ostream& out, const Action& action);
-
-/// An action drawn by how often users do it.
-Action random_action(std::mt19937& chance);
-
-/// Listens to an output: which notes sound.
-class Ear {
- public:
-  void hear(const std::vector<RecordingOutput::Call>& calls);
-  bool silent() const { return sounding_.empty(); }
-  std::string sounding() const;
-
- private:
-  void hear(std::uint32_t packed);
-  void silence(int channel);
-
-  std::set<std::pair<int, int>> sounding_;  ///< channel index and note
-};
 
 /// Does actions in an editor of its own.
 class RandomUser {

@@ -1,6 +1,8 @@
 #include "random_user.h"
 
+#include "ear.h"
 #include "editor_invariants.h"
+#include "user_action.h"
 
 #include <algorithm>
 #include <cstdlib>
