@@ -106,6 +106,11 @@ void EditorInvariants::check_settings(const Song& song, int track) {
   expect(shown >= kFirstCurve && shown <= kLastEffect, "a curve is shown");
   expect(song.used_columns.at(track) >= 0 && song.used_columns.at(track) <= kNoteColumns,
          "used columns");
+  for (int column = song.used_columns.at(track) + 1; column <= kNoteColumns; ++column) {
+    const auto& entries = song.notes.column(track, column);
+    expect(std::all_of(entries.begin(), entries.end(), [](const auto& e) { return e.empty(); }),
+           "a column with an entry counts as used");
+  }
   for (int effect = kFirstEffect; effect <= kLastEffect; ++effect) {
     const bool active = song.active.at(track)[static_cast<std::size_t>(effect)];
     expect((song.effects.text(effect, effects_column(track, Setting::kActive)) == "yes") == active,
