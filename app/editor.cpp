@@ -61,10 +61,7 @@ void Editor::tie_song() {
 }
 
 void Editor::tie_devices() {
-  outputdev.set_hooks({[this] { input.close(); },
-                       [this] {
-                         if (shell.end_program) shell.end_program(1);
-                       }});
+  outputdev.set_hooks({[this] { input.close(); }, [this] { end_for_want_of_a_device(); }});
 }
 
 void Editor::tie_keys() {
@@ -72,6 +69,10 @@ void Editor::tie_keys() {
   recorder.set_focus_tracks([this] { call(shell.focus_tracks); });
   // From then on keys are text: a release would no longer be a note's.
   typing_mode.on_enter([this] { note_keys.release_all(); });
+}
+
+void Editor::end_for_want_of_a_device() {
+  if (shell.end_program) shell.end_program(1);
 }
 
 void Editor::close_ports() {

@@ -112,6 +112,9 @@ class Editor {
   };
   Shell shell;
 
+  /// Ends the program with status 1: a device that it needs cannot be opened, which has been told.
+  void end_for_want_of_a_device();
+
   /// Stops and resets the input, resets the output, closes both: the last thing before the end.
   void close_ports();
 

@@ -2,18 +2,17 @@
 
 #include "app/console.h"
 #include "app/editor.h"
+#include "app/logged_outputs.h"
 #include "app/song_player.h"
 #include "app/start_up.h"
 #include "midi/device_selection.h"
 #include "midi/ports/audio_file.h"
-#include "midi/ports/logging_output_devices.h"
 #include "midi/ports/null_device.h"
 #include "midi/ports/port_error.h"
 #include "midi/ports/synth_renderer.h"
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace lunavox {
 namespace {
@@ -102,24 +101,11 @@ void render_tail(SynthRenderer& synth, AudioFile& file) {
   }
 }
 
-/// The outputs of a run, logged where the command line asks for it.
-class Outputs {
- public:
-  Outputs(OutputDevices& devices, const CommandLine& line, LoggingOutputDevices::Now now = {})
-      : devices_(devices) {
-    if (!line.midi_log.empty()) log_.emplace(devices, line.midi_log, std::move(now));
-  }
-  OutputDevices& get() { return log_ ? *log_ : devices_; }
-
- private:
-  OutputDevices& devices_;
-  std::optional<LoggingOutputDevices> log_;
-};
-
 void render_song(const CommandLine& line, const Headless& world) {
   ManualClock clock;
   SynthRenderer synth(line.soundfont);
-  Outputs outputs(synth, line, [&clock] { return std::chrono::milliseconds(clock.timeGetTime()); });
+  LoggedOutputs outputs(synth, line.midi_log,
+                        [&clock] { return std::chrono::milliseconds(clock.timeGetTime()); });
   HeadlessEditor headless(outputs.get(), clock, world.errors);
   headless.open_output(0);
   headless.open_song(line.song);
@@ -140,7 +126,7 @@ int chosen_output(const CommandLine& line, OutputDevices& outputs) {
 
 void play_song(const CommandLine& line, const Headless& world) {
   SystemClock clock;
-  Outputs outputs(world.outputs, line);
+  LoggedOutputs outputs(world.outputs, line.midi_log);
   HeadlessEditor headless(outputs.get(), clock, world.errors);
   headless.open_output(chosen_output(line, world.outputs));
   headless.open_song(line.song);

@@ -1,14 +1,13 @@
 #include "app/command_line.h"
 #include "app/headless.h"
+#include "app/logged_outputs.h"
 #include "app/ui/run_window.h"
-#include "midi/ports/logging_output_devices.h"
 #include "midi/ports/system_input_devices.h"
 #include "midi/ports/system_output_devices.h"
 
 #include <atomic>
 #include <csignal>
 #include <iostream>
-#include <optional>
 
 namespace lunavox {
 namespace {
@@ -22,9 +21,8 @@ void interrupt(int) {
 }
 
 int edit(const CommandLine& line, OutputDevices& outputs, InputDevices& inputs) {
-  std::optional<LoggingOutputDevices> log;
-  if (!line.midi_log.empty()) log.emplace(outputs, line.midi_log);
-  return run_window(line, log ? *log : outputs, inputs);
+  LoggedOutputs logged(outputs, line.midi_log);
+  return run_window(line, logged.get(), inputs);
 }
 
 int run(const CommandLine& line) {

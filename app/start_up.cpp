@@ -92,7 +92,7 @@ bool StartUp::open_input() {
   if (editor_.flags.no_input) return true;
   if (editor_.input.open(input_device_)) return true;
   editor_.world.dialogs.error("No Midi input device found", "Error");
-  end_program();
+  editor_.end_for_want_of_a_device();
   return false;
 }
 
@@ -108,10 +108,6 @@ bool StartUp::open_output() {
     }
   }
   return editor_.outputdev.choose_device(device);
-}
-
-void StartUp::end_program() {
-  if (editor_.shell.end_program) editor_.shell.end_program(1);
 }
 
 }  // namespace lunavox

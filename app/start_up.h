@@ -59,7 +59,6 @@ class StartUp {
   bool open_output();
   std::optional<int> wished_input(const std::vector<std::string>& names);
   void tell_missing(const std::string& kind, const std::string& wish);
-  void end_program();
 
   Editor& editor_;
   Config& config_;
