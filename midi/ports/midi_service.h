@@ -22,7 +22,7 @@ struct MidiService {
 
   bool available() const { return api != RtMidi::UNSPECIFIED; }
   /// Whether the service still runs.
-  bool alive() const { return !jack || jack->alive(); }
+  bool alive() const { return api != RtMidi::UNIX_JACK || (jack && jack->alive()); }
 };
 
 /// ALSA's sequencer, else a running JACK server, else none.

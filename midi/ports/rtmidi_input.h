@@ -1,7 +1,7 @@
 #pragma once
 
 #include "midi/devices.h"
-#include "midi/ports/midi_service.h"
+#include "midi/ports/returning_port.h"
 
 #include <atomic>
 
@@ -21,25 +21,20 @@ class RtMidiInput : public InputDevice {
   /// Nothing is kept back, so there is nothing more to it than stopping.
   void reset() override { stop(); }
   std::string status() const override;
-  void look_after() override;
+  void look_after() override { port_.look_after(); }
 
  private:
   RtMidiInput(MidiService service, std::string port, InputCallback callback);
 
-  bool open_port();
+  void listen_to(RtMidiIn& in);
   void received(const std::vector<unsigned char>& bytes);
 
-  MidiService service_;
-  std::string port_;  // empty for our own
-  bool gone_ = false;
   InputCallback callback_;
   // Together they let stop() know that no message is being delivered: the one is written before
   // the other is read on either side.
   std::atomic<bool> running_{false};
   std::atomic<bool> delivering_{false};
-  PortErrors errors_;
-  // Asking for the ports' names changes the library's object, not the device.
-  mutable RtMidiIn in_;
+  ReturningPort<RtMidiIn> port_;  // last: it calls while the others still are there
 };
 
 /// Name of the input that others connect to.

@@ -18,27 +18,22 @@ constexpr std::uint64_t kCyclesToArrive = 4;
 std::unique_ptr<RtMidiOutput> RtMidiOutput::open(MidiService service, const std::string& port) {
   try {
     std::unique_ptr<RtMidiOutput> device(new RtMidiOutput(std::move(service), port));
-    return device->open_port() ? std::move(device) : nullptr;
+    return device->open() ? std::move(device) : nullptr;
   } catch (const RtMidiError&) {
     return nullptr;
   }
 }
 
 RtMidiOutput::RtMidiOutput(MidiService service, std::string port)
-    : service_(std::move(service)), port_(std::move(port)), out_(service_.api, kOutputClient) {
-  errors_.listen_to(out_);
-}
+    : port_(std::move(service), std::move(port), {kOutputClient, "MIDI out", kVirtualOutput},
+            [](RtMidiOut&) {}) {}
 
-bool RtMidiOutput::open_port() {
-  if (port_.empty()) {
-    out_.openVirtualPort(kVirtualOutput);
-    return !errors_.failed();
+bool RtMidiOutput::open() {
+  if (!port_.open()) return false;
+  const std::string& receiver = port_.wanted();
+  if (jack() && !receiver.empty()) {
+    wait_for([&] { return jack()->connected(receiver, kOutputClient); });
   }
-  const int number = port_number(out_, port_);
-  if (number < 0) return false;
-  out_.openPort(static_cast<unsigned>(number), "MIDI out");
-  if (!out_.isPortOpen() || errors_.failed()) return false;
-  if (service_.jack) wait_for([&] { return service_.jack->connected(port_, kOutputClient); });
   return true;
 }
 
@@ -54,21 +49,21 @@ MidiResult RtMidiOutput::long_message(const SysExBytes& data) {
 }
 
 MidiResult RtMidiOutput::send(std::span<const std::uint8_t> bytes) {
-  if (!service_.alive()) return kPortGone;
-  if (!has_room(bytes.size())) return service_.alive() ? kPortBusy : kPortGone;
-  if (service_.jack) last_send_cycle_ = service_.jack->cycles();
-  errors_.clear();
+  if (!port_.service().alive()) return kPortGone;
+  if (!has_room(bytes.size())) return port_.service().alive() ? kPortBusy : kPortGone;
+  if (jack()) last_send_cycle_ = jack()->cycles();
+  port_.errors().clear();
   try {
-    out_.sendMessage(bytes.data(), bytes.size());
+    port_.port().sendMessage(bytes.data(), bytes.size());
   } catch (const RtMidiError&) {
     return kNotSent;
   }
-  return errors_.any() ? kNotSent : kMidiOk;
+  return port_.errors().any() ? kNotSent : kMidiOk;
 }
 
 bool RtMidiOutput::has_room(std::size_t size) {
-  if (!service_.jack) return true;
-  return wait_for([&] { return guard_.admit(size, service_.jack->cycles()); });
+  if (!jack()) return true;
+  return wait_for([&] { return guard_.admit(size, jack()->cycles()); });
 }
 
 /// Waits for something that the running server brings about; not long, and not for a dead one.
@@ -77,7 +72,7 @@ bool RtMidiOutput::wait_for(Condition condition) {
   using Clock = std::chrono::steady_clock;
   const Clock::time_point end = Clock::now() + kPatience;
   while (!condition()) {
-    if (!service_.alive() || Clock::now() >= end) return false;
+    if (!port_.service().alive() || Clock::now() >= end) return false;
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
   }
   return true;
@@ -85,8 +80,8 @@ bool RtMidiOutput::wait_for(Condition condition) {
 
 RtMidiOutput::~RtMidiOutput() {
   // A JACK port that closes takes with it what its receiver has not looked at yet.
-  if (!service_.jack) return;
-  wait_for([&] { return service_.jack->cycles() >= last_send_cycle_ + kCyclesToArrive; });
+  if (!jack()) return;
+  wait_for([&] { return jack()->cycles() >= last_send_cycle_ + kCyclesToArrive; });
 }
 
 void RtMidiOutput::reset() {
@@ -96,22 +91,16 @@ void RtMidiOutput::reset() {
   }
 }
 
-void RtMidiOutput::look_after() {
-  if (port_.empty() || !service_.alive()) return;
-  if (port_number(out_, port_) < 0) {
-    gone_ = true;
-  } else if (gone_) {
-    // Listed again, but our connection went with the old one.
-    out_.closePort();
-    errors_.clear();
-    gone_ = !open_port();
-  }
-}
-
 std::string RtMidiOutput::status() const {
-  if (!service_.alive()) return "The JACK server has stopped: nothing is heard any more.";
-  if (port_.empty() || (!gone_ && port_number(out_, port_) >= 0)) return {};
-  return "The MIDI output \"" + port_ + "\" is gone.";
+  using State = ReturningPort<RtMidiOut>::State;
+  switch (port_.state()) {
+    case State::kNoService:
+      return "The JACK server has stopped: nothing is heard any more.";
+    case State::kAway:
+      return "The MIDI output \"" + port_.wanted() + "\" is gone.";
+    default:
+      return {};
+  }
 }
 
 }  // namespace lunavox

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "midi/ports/jack_queue_guard.h"
-#include "midi/ports/midi_service.h"
 #include "midi/ports/port_result.h"
+#include "midi/ports/returning_port.h"
 
 #include <span>
 
@@ -24,23 +24,19 @@ class RtMidiOutput : public OutputDevice {
   std::string error_text(MidiResult result) const override { return port_result_text(result); }
   void reset() override;
   std::string status() const override;
-  void look_after() override;
+  void look_after() override { port_.look_after(); }
 
  private:
   RtMidiOutput(MidiService service, std::string port);
 
-  bool open_port();
+  bool open();
   bool has_room(std::size_t size);
   template <class Condition>
   bool wait_for(Condition condition);
   MidiResult send(std::span<const std::uint8_t> bytes);
+  const JackServer* jack() const { return port_.service().jack.get(); }
 
-  MidiService service_;
-  std::string port_;  // empty for our own
-  bool gone_ = false;
-  PortErrors errors_;
-  // Asking for the ports' names changes the library's object, not the device.
-  mutable RtMidiOut out_;
+  ReturningPort<RtMidiOut> port_;
   JackQueueGuard guard_;
   std::uint64_t last_send_cycle_ = 0;
   SysExSteps steps_;

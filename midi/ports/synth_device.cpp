@@ -1,7 +1,5 @@
 #include "midi/ports/synth_device.h"
 
-#include "midi/ports/jack_server.h"
-
 namespace lunavox {
 
 void SynthDevice::DeleteDriver::operator()(fluid_audio_driver_t* driver) const {
@@ -22,14 +20,39 @@ void SynthDevice::open_sound_card() {
   // The library's usual delay, in fewer pieces: that costs less processor time.
   fluid_settings_setint(settings, "audio.period-size", 256);
   fluid_settings_setint(settings, "audio.periods", 4);
-  for (const std::string service : {"pipewire", "pulseaudio", "alsa", "jack"}) {
-    // Without a server to connect to, the library asks again for seconds.
-    if (service == "jack" && !JackServer::connect()) continue;
-    fluid_settings_setstr(settings, "audio.driver", service.c_str());
-    driver_.reset(new_fluid_audio_driver(settings, synthesiser_->handle()));
-    if (driver_) return;
+  for (const std::string service : {"pipewire", "pulseaudio", "alsa"}) {
+    if (open_service(service)) return;
   }
-  status_ = "No sound card was found: the synthesiser plays silently.";
+  through_jack_ = open_jack();
+  if (!through_jack_) status_ = "No sound card was found: the synthesiser plays silently.";
+}
+
+bool SynthDevice::open_service(const std::string& service) {
+  fluid_settings_t* settings = synthesiser_->settings();
+  fluid_settings_setstr(settings, "audio.driver", service.c_str());
+  driver_.reset(new_fluid_audio_driver(settings, synthesiser_->handle()));
+  return driver_ != nullptr;
+}
+
+/// Without a server to connect to, the library would ask again for seconds.
+bool SynthDevice::open_jack() {
+  jack_ = JackServer::connect();
+  if (jack_ && open_service("jack")) return true;
+  jack_.reset();
+  return false;
+}
+
+/// A JACK server that is started again is only found once all is given up that we have of the old
+/// one, here and in the other devices; so it is sought when we are asked the next time.
+void SynthDevice::look_after() {
+  if (!through_jack_ || (driver_ && jack_->alive())) return;
+  if (driver_) {
+    driver_.reset();
+    jack_.reset();
+    status_ = "The JACK server has stopped: nothing is heard any more.";
+  } else if (open_jack()) {
+    status_.clear();
+  }
 }
 
 MidiResult SynthDevice::short_message(std::uint32_t packed) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "midi/ports/jack_server.h"
 #include "midi/ports/port_result.h"
 #include "midi/ports/synthesiser.h"
 
@@ -24,6 +25,7 @@ class SynthDevice : public OutputDevice {
   std::string error_text(MidiResult result) const override { return port_result_text(result); }
   void reset() override { synthesiser_->silence(); }
   std::string status() const override { return status_; }
+  void look_after() override;
 
  private:
   struct DeleteDriver {
@@ -31,9 +33,13 @@ class SynthDevice : public OutputDevice {
   };
 
   void open_sound_card();
+  bool open_service(const std::string& service);
+  bool open_jack();
 
   std::shared_ptr<Synthesiser> synthesiser_;
   std::unique_ptr<fluid_audio_driver_t, DeleteDriver> driver_;
+  bool through_jack_ = false;
+  std::shared_ptr<JackServer> jack_;  // the server that the driver plays to
   SysExSteps steps_;
   std::string status_;
 };

@@ -74,10 +74,4 @@ std::unique_ptr<OutputDevice> SystemOutputDevices::open_synth() {
   return std::make_unique<SynthDevice>(std::move(synthesiser), SynthDevice::Sound::kSoundCard);
 }
 
-bool SystemOutputDevices::opening_takes_time(int device) {
-  if (device != kDefaultOutput) return device == kSynth;
-  const MidiService service = find_midi_service();
-  return default_output(service, listed(service)) == kSynth;
-}
-
 }  // namespace lunavox

@@ -21,9 +21,6 @@ class SystemOutputDevices : public OutputDevices {
   std::unique_ptr<OutputDevice> open(int device) override;
   std::string open_error() const override { return open_error_; }
 
-  /// Whether opening a device may take so long (a SoundFont is read) that the user should be told.
-  bool opening_takes_time(int device);
-
  private:
   std::unique_ptr<OutputDevice> open_synth();
 

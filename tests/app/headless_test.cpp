@@ -2,7 +2,7 @@
 
 #include "files/song_file.h"
 #include "midi/ports/null_device.h"
-#include "midi/ports/recording_device.h"
+#include "tests/support/recording_output.h"
 
 #include <filesystem>
 #include <fstream>
@@ -66,7 +66,7 @@ class HeadlessRun : public testing::Test {
     for (int list = 0; list < 3; ++list) line(" 0 ");
   }
 
-  RecordingDevices outputs_;
+  test::RecordingOutput outputs_;
   NullInputDevices inputs_;
   std::ostringstream results_;
   std::ostringstream errors_;
@@ -105,8 +105,8 @@ TEST_F(HeadlessRun, ARefusedSongIsToldAndNothingIsWritten) {
 
 TEST_F(HeadlessRun, PlayingSendsTheSongAndResetsTheChannelsAtItsEnd) {
   write_song("in.lvx");
-  EXPECT_EQ(run({"--play", path("in.lvx"), "--output", "recorder"}), 0) << errors_.str();
-  const auto sent = outputs_.record().shorts();
+  EXPECT_EQ(run({"--play", path("in.lvx"), "--output", "module"}), 0) << errors_.str();
+  const auto sent = outputs_.shorts();
   const auto note = std::find(sent.begin(), sent.end(), 0x643C99U);
   ASSERT_NE(note, sent.end());
   EXPECT_EQ(note[1], 0x3C99U);        // "stop" on the second line
@@ -117,7 +117,7 @@ TEST_F(HeadlessRun, AStopBeforeTheFirstLineStillResetsTheChannels) {
   write_song("in.lvx");
   stop_ = true;
   EXPECT_EQ(run({"--play", path("in.lvx")}), 0);
-  const auto sent = outputs_.record().shorts();
+  const auto sent = outputs_.shorts();
   EXPECT_EQ(std::count(sent.begin(), sent.end(), 0x643C99U), 0);
   EXPECT_EQ(sent.back(), 0x4048BEU);
 }
@@ -151,7 +151,8 @@ TEST_F(HeadlessRun, RenderingWritesSoundAndTheLogSaysWhatWasSent) {
 
 TEST_F(HeadlessRun, TheDevicesAreListedWithTheirNumbers) {
   EXPECT_EQ(run({"--list-devices"}), 0);
-  EXPECT_EQ(results_.str(), "MIDI outputs:\n  0  Recorder\nMIDI inputs:\n  0  No input\n");
+  EXPECT_EQ(results_.str(),
+            "MIDI outputs:\n  0  Synth\n  1  Module\nMIDI inputs:\n  0  No input\n");
 }
 
 TEST_F(HeadlessRun, TheVersionIsPrinted) {

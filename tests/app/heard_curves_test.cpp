@@ -1,6 +1,5 @@
 #include "app/headless.h"
 #include "midi/ports/null_device.h"
-#include "midi/ports/recording_device.h"
 #include "tests/support/editor_bench.h"
 
 #include <algorithm>
@@ -125,14 +124,14 @@ TEST(HeardCurves, TheSavedSongPlayedWithoutAWindowIsLoggedWithTheSameValues) {
   song.editor.song.number.put("8");
   song.editor.song_file.current_name = song.bench.folder.file("bent.lvx");
   song.editor.song_file.procsave();
-  RecordingDevices outputs;
+  test::RecordingOutput outputs;
   NullInputDevices inputs;
   std::ostringstream results;
   std::ostringstream errors;
   std::atomic<bool> stop{false};
   const std::string log = song.bench.folder.file("log.txt");
   ASSERT_EQ(run_headless(read_command_line({"--play", song.bench.folder.file("bent.lvx"),
-                                            "--output", "recorder", "--midi-log", log}),
+                                            "--output", "module", "--midi-log", log}),
                          {outputs, inputs, results, errors, stop}),
             0)
       << errors.str();
@@ -142,7 +141,7 @@ TEST(HeardCurves, TheSavedSongPlayedWithoutAWindowIsLoggedWithTheSameValues) {
   const Messages logged = shorts_in(song.bench.folder.read("log.txt"));
   const auto first = std::search(logged.begin(), logged.end(), expected.begin(), expected.end());
   EXPECT_NE(first, logged.end()) << song.bench.folder.read("log.txt");
-  EXPECT_EQ(logged, outputs.record().shorts());
+  EXPECT_EQ(logged, outputs.shorts());
 }
 
 }  // namespace

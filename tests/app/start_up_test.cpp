@@ -2,6 +2,8 @@
 
 #include "tests/support/editor_bench.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 namespace lunavox {
@@ -279,6 +281,34 @@ TEST(Editor, ATypedNoteSoundsAndIsRecordedStepByStep) {
   EXPECT_EQ(editor.song.notes.at(1, 1, 1), "7F3099");
   EXPECT_EQ(editor.song.tracks.text(1, 1), "C  4");
   EXPECT_EQ(editor.song.tracks.row(), 2);
+}
+
+TEST(Editor, ADriverThatRefusesSystemExclusiveIsToldAndEverythingElseGoesOn) {
+  EditorBench bench;
+  bench.output.long_result = 11;
+  bench.output.error = "The driver takes no System Exclusive messages.";
+  bench.start();
+  const Message refusal{
+      "Error in sending long message\r\nThe driver takes no System Exclusive messages.", "",
+      Icon::kNone, Buttons::kOk};
+  EXPECT_EQ(bench.dialogs.messages, std::vector<Message>(4, refusal));  // the module's set-up
+  EXPECT_TRUE(bench.ready);
+
+  Editor& editor = bench.editor;
+  bench.dialogs.messages.clear();
+  editor.xg_effects.reverb_click(2);
+  EXPECT_EQ(bench.dialogs.messages, std::vector<Message>(1, refusal));
+  EXPECT_EQ(editor.song.reverb, 2);
+
+  editor.song.notes.at(1, 1, 1) = "7F3099";
+  bench.output.calls.clear();
+  bench.dialogs.messages.clear();
+  editor.transport.playnotes_mouseup();
+  bench.clock.advance(126);
+  editor.current_loop.get()->pass(bench.clock.timeGetTime());
+  const std::vector<std::uint32_t> sent = bench.output.shorts();
+  EXPECT_EQ(std::count(sent.begin(), sent.end(), 0x7F3099U), 1);
+  EXPECT_TRUE(bench.dialogs.messages.empty());
 }
 
 }  // namespace

@@ -92,6 +92,7 @@ class Editor:
     def ready(self):
         """The main window, once start-up has come to its end, the reset of the output."""
         jack.wait_until(self.sent, "reset of the output")
+        jack.wait_until(lambda: len(set(self.device_status())) > 1, "painted status bar")
         return self.main()
 
     def wait_for_no_window(self, title):

@@ -115,13 +115,18 @@ class JackServer(contextlib.ExitStack):
         # The server of the test is the only way out: no sequencer, no sound service.
         self.environment.pop("PULSE_SERVER", None)
         try:
-            self.server = self.run("jackd", "-n", name, "-r", "--no-mlock", *self.options,
-                                   "-d", "dummy", "-r", "48000", "-p", "256")
-            wait_until(lambda: self._ask("jack_lsp").returncode == 0, "JACK server")
+            self.start()
         except BaseException:
             self.close()
             raise
         return self
+
+    def start(self):
+        """Starts the server, again if it has died."""
+        self.server = self.run("jackd", "-n", self.environment["JACK_DEFAULT_SERVER"], "-r",
+                               "--no-mlock", *self.options, "-d", "dummy", "-r", "48000",
+                               "-p", "256")
+        wait_until(lambda: self._ask("jack_lsp").returncode == 0, "JACK server")
 
     def run(self, *command):
         """Starts a program on this server."""

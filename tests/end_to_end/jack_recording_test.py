@@ -123,6 +123,41 @@ class JackRecording(unittest.TestCase):
         window.key("w")
         jack.wait_until(lambda: "99 32 7f" in monitor.messages(), "note at the new port")
 
+    def test_a_server_that_is_started_again_while_a_song_plays_is_heard_and_played_to_again(self):
+        monitor = self.server.monitor()
+        self.play_in()
+        window = self.start("--input", "seq:out", "--output", monitor.PORT)
+        well = window.device_status()
+        window.key("space", *["q", "w"] * 16, "space", "Home")
+        window.click(editor.PLAY_BUTTON)
+        for _ in range(2):
+            self.server.die()
+            jack.wait_until(lambda: window.device_status() != well, "word of the server's end")
+            self.server.start()
+            monitor = self.server.monitor()
+            self.play_in()
+            jack.wait_until(lambda: window.device_status() == well, "word of the server's return")
+            heard = len(window.notes())
+            window.wait_for_notes(heard + 2)
+            jack.wait_until(monitor.messages, "message at the new server")
+        window.click(editor.PLAY_BUTTON)
+        window.save_as(self.song)
+        window.quit()
+
+    def test_the_synthesiser_is_heard_again_at_a_server_that_is_started_again(self):
+        def sound_ports():
+            return [port for port in self.server.ports() if port.startswith("fluidsynth")]
+
+        window = self.start("--input", "virtual", "--output", "synth")
+        before = jack.wait_until(sound_ports, "sound at the server")
+        well = window.device_status()
+        self.server.die()
+        jack.wait_until(lambda: window.device_status() != well, "word of the server's end")
+        self.server.start()
+        jack.wait_until(lambda: window.device_status() == well, "word of the server's return")
+        self.assertEqual(sound_ports(), before)
+        window.quit()
+
     def test_a_remembered_input_that_is_gone_is_told(self):
         os.makedirs(f"{self.home}/config/lunavox")
         with open(f"{self.home}/config/lunavox/lvconfig.ini", "w", encoding="ascii") as config:

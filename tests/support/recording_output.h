@@ -32,6 +32,7 @@ class RecordingOutput : public OutputDevices {
   MidiResult long_result = kMidiOk;
   MidiResult unprepare_result = kMidiOk;
   std::string error = "The device is busy.";
+  std::string status;  ///< what devices say of themselves
 
   /// The short messages so far.
   std::vector<std::uint32_t> shorts() const {
@@ -92,6 +93,7 @@ class RecordingOutput : public OutputDevices {
     }
     std::string error_text(MidiResult) const override { return owner_.error; }
     void reset() override { note({Call::kReset, number_, 0, {}}); }
+    std::string status() const override { return owner_.status; }
 
    private:
     void note(const Call& call) { owner_.calls.push_back(call); }

@@ -1,14 +1,15 @@
 #include "midi/ports/logging_output_devices.h"
 
 #include "midi/ports/port_error.h"
-#include "midi/ports/recording_device.h"
 #include "test_files.h"
+#include "tests/support/recording_output.h"
 
 #include <gtest/gtest.h>
 
 namespace lunavox {
 namespace {
 
+using test::RecordingOutput;
 using test::TestFolder;
 
 class MidiLogging : public testing::Test {
@@ -20,7 +21,7 @@ class MidiLogging : public testing::Test {
 
   TestFolder folder_;
   std::filesystem::path file_ = folder_.file("midi.log");
-  RecordingDevices recorder_;
+  RecordingOutput recorder_;
   std::chrono::microseconds now_{5'000'000};
 };
 
@@ -73,10 +74,10 @@ TEST_F(MidiLogging, ADeviceMayOutliveTheListItCameFrom) {
 }
 
 TEST_F(MidiLogging, EverythingGoesOnToTheDeviceWhichAnswers) {
-  recorder_.record().unprepare_result = 65;
-  recorder_.record().status = "The device is silent.";
+  recorder_.unprepare_result = 65;
+  recorder_.status = "The device is silent.";
   const auto devices = logging();
-  EXPECT_EQ(devices->names(), std::vector<std::string>{"Recorder"});
+  EXPECT_EQ(devices->names(), (std::vector<std::string>{"Synth", "Module"}));
   {
     const auto device = devices->open(kDefaultOutput);
     device->short_message(0x643C90);
@@ -85,16 +86,19 @@ TEST_F(MidiLogging, EverythingGoesOnToTheDeviceWhichAnswers) {
     EXPECT_EQ(device->status(), "The device is silent.");
     device->reset();
   }
-  std::vector<RecordedCall::Kind> kinds;
-  for (const RecordedCall& call : recorder_.record().calls) kinds.push_back(call.kind);
-  EXPECT_EQ(kinds, (std::vector{RecordedCall::kOpen, RecordedCall::kShort, RecordedCall::kUnprepare,
-                                RecordedCall::kReset, RecordedCall::kClose}));
+  using Call = RecordingOutput::Call;
+  EXPECT_EQ(recorder_.calls, (std::vector<Call>{{Call::kOpen, kDefaultOutput, 0, {}},
+                                                {Call::kShort, 0, 0x643C90, {}},
+                                                {Call::kUnprepare, 0, 0, {0xF0, 0xF7}},
+                                                {Call::kReset, kDefaultOutput, 0, {}},
+                                                {Call::kClose, kDefaultOutput, 0, {}}}));
 }
 
 TEST_F(MidiLogging, ADeviceThatCannotBeOpenedIsToldAsWithoutTheLog) {
+  recorder_.opens = false;
   const auto devices = logging();
-  EXPECT_EQ(devices->open(7), nullptr);
-  EXPECT_EQ(devices->open_error(), "There is no MIDI output number 7.");
+  EXPECT_EQ(devices->open(1), nullptr);
+  EXPECT_EQ(devices->open_error(), "The device cannot be opened.");
 }
 
 TEST_F(MidiLogging, ALogThatCannotBeWrittenIsTold) {

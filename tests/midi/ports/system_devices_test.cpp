@@ -13,8 +13,6 @@ TEST(SystemDevices, TheFirstOutputIsTheBuiltInSynthesiser) {
   const std::vector<std::string> names = devices.names();
   ASSERT_FALSE(names.empty());
   EXPECT_EQ(names.front(), "Built-in synthesiser");
-  EXPECT_TRUE(devices.opening_takes_time(0));
-  EXPECT_FALSE(devices.opening_takes_time(1));
 }
 
 TEST(SystemDevices, AnOutputThatIsNotListedCannotBeOpened) {

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "midi/ports/midi_service.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace lunavox {
+
+/// An open port of the system's MIDI service that is taken up again when the port it leads to, or
+/// the whole service, was gone and has come back.
+/// @tparam Port RtMidiOut or RtMidiIn
+template <class Port>
+class ReturningPort {
+ public:
+  struct Names {
+    const char* client;        ///< ours among the programs that ports belong to
+    const char* own_port;      ///< our end of a connection
+    const char* virtual_port;  ///< the port that others connect to
+  };
+  enum class State { kThere, kAway, kNoService };
+
+  /// @param wanted the port to connect to by its name, or, empty, one of our own for others
+  /// @param set_up does what is to be done before the library's object is opened, each time
+  ReturningPort(MidiService service, std::string wanted, Names names,
+                std::function<void(Port&)> set_up);
+
+  /// @throws RtMidiError where the service cannot be used
+  /// @return false when the port cannot be opened
+  bool open();
+  /// To be called now and then.
+  void look_after();
+  State state() const;
+
+  const MidiService& service() const { return service_; }
+  const std::string& wanted() const { return wanted_; }
+  /// The library's object; only to be used while the service is alive.
+  Port& port() { return *port_; }
+  /// What the library had to say.
+  PortErrors& errors() { return errors_; }
+
+ private:
+  void look_after_service();
+  void reopen();
+  bool listed() const;
+
+  MidiService service_;
+  std::string wanted_;
+  Names names_;
+  std::function<void(Port&)> set_up_;
+  bool gone_ = false;
+  PortErrors errors_;
+  // Asking for the ports' names changes the library's object, not the device.
+  mutable std::optional<Port> port_;
+};
+
+extern template class ReturningPort<RtMidiOut>;
+extern template class ReturningPort<RtMidiIn>;
+
+}  // namespace lunavox
