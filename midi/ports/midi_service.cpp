@@ -48,6 +48,12 @@ bool is_hardware_port(RtMidi::Api api, const std::string& name) {
   return client > 14 && client < 128;
 }
 
+int default_output(RtMidi::Api api, const std::vector<std::string>& names) {
+  const auto is_hardware = [api](const std::string& name) { return is_hardware_port(api, name); };
+  const auto found = std::find_if(names.begin(), names.end(), is_hardware);
+  return found == names.end() ? 0 : static_cast<int>(found - names.begin());
+}
+
 std::vector<std::string> port_names(RtMidi& ports) {
   std::vector<std::string> names;
   const unsigned count = ports.getPortCount();

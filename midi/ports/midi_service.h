@@ -34,6 +34,10 @@ bool is_own_port(const std::string& name);
 /// Whether a port leads to a device rather than to another program.
 bool is_hardware_port(RtMidi::Api api, const std::string& name);
 
+/// The place of the system's default in a list of outputs: the first port that leads to a device,
+/// else the first output of all.
+int default_output(RtMidi::Api api, const std::vector<std::string>& names);
+
 /// The names of a service's ports but our own, in its order.
 std::vector<std::string> port_names(RtMidi& ports);
 

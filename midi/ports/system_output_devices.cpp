@@ -4,8 +4,6 @@
 #include "midi/ports/rtmidi_output.h"
 #include "midi/ports/synth_device.h"
 
-#include <algorithm>
-
 namespace lunavox {
 namespace {
 
@@ -31,14 +29,6 @@ std::vector<std::string> listed(const MidiService& service) {
   return names;
 }
 
-int default_output(const MidiService& service, const std::vector<std::string>& names) {
-  const auto is_hardware = [&](const std::string& name) {
-    return is_hardware_port(service.api, name);
-  };
-  const auto found = std::find_if(names.begin() + 1, names.end(), is_hardware);
-  return found == names.end() ? kSynth : static_cast<int>(found - names.begin());
-}
-
 }  // namespace
 
 SystemOutputDevices::SystemOutputDevices(std::filesystem::path soundfont)
@@ -56,7 +46,7 @@ std::unique_ptr<OutputDevice> SystemOutputDevices::open(int device) {
   if (device == kSynth) return open_synth();
   const MidiService service = find_midi_service();
   const std::vector<std::string> names = listed(service);
-  if (device == kDefaultOutput) device = default_output(service, names);
+  if (device == kDefaultOutput) device = default_output(service.api, names);
   if (device == kSynth) return open_synth();
   if (device < 0 || device >= static_cast<int>(names.size())) {
     open_error_ = "There is no MIDI output number " + std::to_string(device) + ".";

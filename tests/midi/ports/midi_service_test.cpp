@@ -31,5 +31,16 @@ TEST(MidiService, TheBuiltInSynthesiserIsNoHardwarePort) {
   EXPECT_FALSE(is_hardware_port(RtMidi::UNSPECIFIED, "Built-in synthesiser"));
 }
 
+TEST(MidiService, TheSystemsDefaultIsTheFirstHardwarePortElseTheSynthesiser) {
+  EXPECT_EQ(default_output(RtMidi::UNIX_JACK,
+                           {"Built-in synthesiser", "midi-monitor:input", "system:midi_playback_1",
+                            "system:midi_playback_2", "Lunavox virtual port"}),
+            2);
+  EXPECT_EQ(default_output(RtMidi::UNIX_JACK,
+                           {"Built-in synthesiser", "midi-monitor:input", "Lunavox virtual port"}),
+            0);
+  EXPECT_EQ(default_output(RtMidi::UNSPECIFIED, {"Built-in synthesiser"}), 0);
+}
+
 }  // namespace
 }  // namespace lunavox
