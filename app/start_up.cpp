@@ -84,6 +84,7 @@ void StartUp::check_screen() {
 }
 
 void StartUp::read_banks() {
+  const LongOperation operation(editor_.world.progress, editor_.song.tracks, "reading banks...", 1);
   editor_.kits = DrumKits::read(folders_.drum_bank());
   editor_.voices = VoiceBanks::read(folders_.voice_bank());
 }

@@ -36,6 +36,18 @@ TEST(StartUp, EndsReadyInTheInputLoopWithTheDrumTrackAlone) {
   EXPECT_TRUE(bench.dialogs.messages.empty());
 }
 
+TEST(StartUp, TheProgressBoxIsShownFromTheBanksToTheBeatMarks) {
+  EditorBench bench;
+  bench.start();
+  std::vector<std::string> captions;
+  for (const auto& shown : bench.progress.shown) captions.push_back(shown.caption);
+  EXPECT_EQ(captions, (std::vector<std::string>{"reading banks...", "adding drum track...",
+                                                "showing effect...", "enlarging effects...",
+                                                "numeroting lines...", "preparing beats...",
+                                                "showing effect..."}));
+  EXPECT_FALSE(bench.progress.visible);
+}
+
 TEST(StartUp, TheFirstCurvesAreFlatAndShownOnEveryLine) {
   EditorBench bench;
   bench.start();
