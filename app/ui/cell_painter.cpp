@@ -33,7 +33,8 @@ QColor ground_of(const Cell& cell, const CellSurroundings& around) {
 }
 
 QColor text_colour_of(const Cell& cell, const CellSurroundings& around) {
-  if (cell.text_colour != kWhite) return theme::colour(cell.text_colour);
+  const bool own_colours = cell.text_colour != kWhite || cell.background != kBlack;
+  if (own_colours) return theme::colour(cell.text_colour);
   if (around.switch_cell) return cell.text == "yes" ? theme::kAccent : theme::kFaintText;
   return theme::kText;
 }

@@ -21,11 +21,11 @@ QColor text_colour_of(const Cell& cell, bool marked) {
 }  // namespace
 
 void paint_fixed_cell(QPainter& painter, const QRect& rect, const Cell& cell, int text_pixels,
-                      bool marked, bool track_end) {
-  painter.fillRect(rect, marked ? theme::kAccentDeep : theme::kPanel);
+                      const FixedCellLook& look) {
+  painter.fillRect(rect, look.marked ? theme::kAccentDeep : look.ground);
   painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), theme::kLine);
   painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()),
-                   track_end ? theme::kTrackLine : theme::kLine);
+                   look.track_end ? theme::kTrackLine : theme::kLine);
   if (cell.background != kNoBackground) {
     // A cell with a colour of its own, such as a beat's, shows it on a chip around its text: a
     // whole column of it would outshine the notes.
@@ -39,9 +39,9 @@ void paint_fixed_cell(QPainter& painter, const QRect& rect, const Cell& cell, in
   }
   QFont font = theme::caption_font();
   font.setPixelSize(text_pixels);
-  font.setBold(marked || cell.background != kNoBackground);
+  font.setBold(look.marked || cell.background != kNoBackground);
   painter.setFont(font);
-  painter.setPen(text_colour_of(cell, marked));
+  painter.setPen(text_colour_of(cell, look.marked));
   const QString text = QString::fromStdString(cell.text);
   const QRect room = rect.adjusted(0, 0, -1, -1);
   if (cell.alignment == Alignment::kCentre) {
@@ -98,9 +98,12 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
   if (line >= (horizontal ? model_.grid().columns() : model_.grid().rows())) return;
   Cell cell = cell_of(section);
   if (horizontal) cell.alignment = Alignment::kCentre;
-  const bool track_end = !horizontal || line % columns_per_track_ == 0;
-  paint_fixed_cell(*painter, rect, cell, text_pixels_, !horizontal && line == marked_row_,
-                   track_end);
+  FixedCellLook look;
+  // Line numbers are black.
+  look.ground = horizontal || line == 0 ? theme::kPanel : theme::colour(kBlack);
+  look.marked = !horizontal && line == marked_row_;
+  look.track_end = !horizontal || line % columns_per_track_ == 0;
+  paint_fixed_cell(*painter, rect, cell, text_pixels_, look);
 }
 
 }  // namespace lunavox

@@ -34,8 +34,15 @@ class GridHeader : public QHeaderView {
   int text_pixels_ = 11;
 };
 
+/// How a fixed cell stands among the others.
+struct FixedCellLook {
+  QColor ground;           ///< under a cell that has no colour of its own
+  bool marked = false;     ///< the cursor's line
+  bool track_end = false;  ///< the last column of a track
+};
+
 /// Paints a fixed cell of a grid: a header's section or the corner.
 void paint_fixed_cell(QPainter& painter, const QRect& rect, const Cell& cell, int text_pixels,
-                      bool marked, bool track_end);
+                      const FixedCellLook& look);
 
 }  // namespace lunavox

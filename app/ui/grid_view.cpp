@@ -22,7 +22,7 @@ class CornerCell : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    paint_fixed_cell(painter, rect(), grid_.cell(0, 0), text_pixels_, false, true);
+    paint_fixed_cell(painter, rect(), grid_.cell(0, 0), text_pixels_, {theme::kPanel, false, true});
   }
 
  private:

@@ -2,6 +2,7 @@
 
 #include "window_song.h"
 
+#include <QHeaderView>
 #include <QScrollBar>
 #include <QTest>
 
@@ -68,6 +69,32 @@ TEST_F(GridViewTest, AScreenReaderHearsTheCellItsTrackItsLineAndItsColumn) {
 TEST_F(GridViewTest, AWrittenCellIsAllThatIsPainted) {
   EXPECT_EQ(cells_painted_by([&] { grid.set_text(5, 4, "C  4"); }), 1);
   EXPECT_EQ(cells_painted_by([&] { grid.set_text(50, 4, "C  4"); }), 0) << "not in view";
+}
+
+TEST_F(GridViewTest, LineNumbersAreBlackAndBeatsRed) {
+  grid.set_row(2);
+  settle();
+  const QImage numbers = view.verticalHeader()->grab().toImage();
+  const auto ground_of_line = [&](int line) {
+    return numbers.pixelColor(30, line * kRowHeight + 4).name().toStdString();
+  };
+  EXPECT_EQ(ground_of_line(0), "#f00000");
+  EXPECT_EQ(ground_of_line(2), "#000000");
+  EXPECT_EQ(ground_of_line(3), "#000000");
+  EXPECT_EQ(ground_of_line(4), "#f00000");
+  EXPECT_EQ(ground_of_line(8), "#f00000");
+}
+
+TEST_F(GridViewTest, EachTracksColumnsHaveTheirHeadings) {
+  EXPECT_TRUE(view.horizontalHeader()->isVisible());
+  const auto heading = [this](int section) {
+    return view.model()->headerData(section, Qt::Horizontal).toString().toStdString();
+  };
+  EXPECT_EQ(heading(0), "# 1");
+  EXPECT_EQ(heading(7), "# 8");
+  EXPECT_EQ(heading(8), "Effect");
+  EXPECT_EQ(heading(9), "# 1");
+  EXPECT_EQ(heading(26), "Effect");
 }
 
 TEST_F(GridViewTest, AStepOfTheCursorPaintsTwoLines) {
