@@ -86,6 +86,7 @@ void QtProgressBox::show(const std::string& caption, int maximum) {
 void QtProgressBox::set_caption(const std::string& caption) {
   if (!card_) return;
   card_->caption = QString::fromStdString(caption);
+  card_->setAccessibleDescription(card_->caption);
   if (card_->isVisible()) card_->repaint();
 }
 

@@ -1,5 +1,6 @@
 #include "app/ui/widgets/qt_dialogs.h"
 #include "app/ui/widgets/qt_progress_box.h"
+#include "app/ui/widgets/theme.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -9,6 +10,7 @@
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 #include <gtest/gtest.h>
 
@@ -33,6 +35,31 @@ TEST(QtDialogs, MessagesShowTheirTextsWithTheirLineBreaks) {
     box.button(QMessageBox::Ok)->click();
   });
   dialogs.message({"Error in sending\r\nThe device is busy.", "", Icon::kNone, Buttons::kOk, {}});
+}
+
+TEST(QtDialogs, ACriticalMessageCarriesAMarkAndAnOkButtonOnly) {
+  QtDialogs dialogs;
+  const auto look = [](bool marked) {
+    return [marked](QMessageBox& box) {
+      EXPECT_EQ(box.iconPixmap().isNull(), !marked);
+      EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+      box.button(QMessageBox::Ok)->click();
+    };
+  };
+  answer_box<QMessageBox>(look(true));
+  dialogs.error("Invalid value (30-300)");
+  answer_box<QMessageBox>(look(false));
+  dialogs.message({"Error in sending", "", Icon::kNone, Buttons::kOk, {}});
+}
+
+TEST(QtDialogs, AQuestionOffersYesNoAndCancel) {
+  QtDialogs dialogs;
+  answer_box<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.windowTitle().toStdString(), "Quit");
+    EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    box.button(QMessageBox::No)->click();
+  });
+  dialogs.message({"Save?", "Quit", Icon::kNone, Buttons::kYesNoCancel, {}});
 }
 
 TEST(QtDialogs, QuestionsAreAnsweredByTheirButtons) {
@@ -131,6 +158,52 @@ TEST_F(QtProgressBoxTest, ALongOperationShowsTheBoxUntilItsEnd) {
   box.hide();
   QCoreApplication::processEvents();
   EXPECT_FALSE(card().isVisible());
+}
+
+TEST_F(QtProgressBoxTest, TheBoxTellsWhatIsDoneAndHowFarItHasCome) {
+  const auto filled_pixels = [this] {
+    const QImage image = card().grab().toImage();
+    int filled = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      int along = 0;
+      for (int x = 1; x < image.width() - 1; ++x) along += image.pixelColor(x, y) == theme::kAccent;
+      if (y > 0 && y < image.height() - 1) filled = std::max(filled, along);
+    }
+    return filled;
+  };
+  box.set_patience(0);
+  box.show("numeroting lines...", 10);
+  EXPECT_EQ(card().accessibleDescription().toStdString(), "numeroting lines...");
+  box.set_value(0);
+  EXPECT_EQ(filled_pixels(), 0);
+  box.set_value(10);
+  const int whole = filled_pixels();
+  EXPECT_GT(whole, 100);
+  box.set_value(5);
+  EXPECT_NEAR(2 * filled_pixels(), whole, 2);
+  box.set_caption("preparing beats...");
+  EXPECT_EQ(card().accessibleDescription().toStdString(), "preparing beats...");
+  box.hide();
+}
+
+TEST_F(QtProgressBoxTest, WhatTheUserDoesMeanwhileWaits) {
+  struct Pressed : QObject {
+    bool event(QEvent* event) override {
+      came = came || event->type() == QEvent::User;
+      return QObject::event(event);
+    }
+    bool came = false;
+  } pressed;
+  box.set_patience(0);
+  box.show("adding instrument track...", 2);
+  QCoreApplication::postEvent(&pressed, new QEvent(QEvent::User));
+  box.set_value(1);
+  box.set_caption("showing effect...");
+  box.set_value(2);
+  box.hide();
+  EXPECT_FALSE(pressed.came);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(pressed.came);
 }
 
 TEST_F(QtProgressBoxTest, WorkBeforeThereIsAWindowShowsNothing) {
