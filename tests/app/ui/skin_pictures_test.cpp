@@ -1,5 +1,6 @@
 #include "app/ui/widgets/skin_pictures.h"
 
+#include "app/ui/widgets/picture_button.h"
 #include "tests/support/temp_folder.h"
 
 #include <QImage>
@@ -78,6 +79,18 @@ TEST(SkinPictures, ASkinOfBitmapsIsShownToo) {
   ASSERT_TRUE(bitmap.save(QString::fromStdString(folder.file("play1.bmp"))));
   SkinPictures skin(folder.path());
   EXPECT_TRUE(same_pixels(drawn(skin.picture(QStringLiteral("play1")), {40, 32}, 1), bitmap));
+}
+
+TEST(SkinPictures, AButtonWithoutItsPictureShowsItsName) {
+  const test::TempFolder empty;
+  SkinPictures skin(empty.path());
+  Property<std::string> picture{"play1"};
+  const auto drawn_as = [&](const char* name) {
+    PictureButton button(QLatin1String(name), skin, picture, {}, {80, 32});
+    return button.grab().toImage();
+  };
+  EXPECT_NE(drawn_as("playnotes"), drawn_as("")) << "something is drawn";
+  EXPECT_NE(drawn_as("playnotes"), drawn_as("recordnotes")) << "each its own name";
 }
 
 }  // namespace

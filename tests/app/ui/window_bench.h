@@ -11,6 +11,19 @@
 
 namespace lunavox::test {
 
+/// The program's own data and skin, and a home of the test's for what it writes.
+inline ProgramFolders folders_with_home(const TempFolder& home) {
+  const std::filesystem::path source = LUNAVOX_SOURCE_DIR;
+  return {source / "data", source / "skin", home.path() / "config", home.path() / "state"};
+}
+
+/// An ended program shows no more boxes: the next test's program begins anew.
+inline void begin_anew_after(const WindowShell& shell) {
+  if (!shell.ended()) return;
+  QTimer::singleShot(0, [] { QCoreApplication::quit(); });
+  QCoreApplication::exec();
+}
+
 /// The whole editor with its window, on recorded devices and a clock that is set by hand, in a home
 /// of its own. What the editor tells and asks is answered from a script.
 struct WindowBench {
@@ -37,12 +50,7 @@ struct WindowBench {
     outputs.calls.clear();
   }
 
-  /// An ended program shows no more boxes: the next test's program begins anew.
-  ~WindowBench() {
-    if (!shell.ended()) return;
-    QTimer::singleShot(0, [] { QCoreApplication::quit(); });
-    QCoreApplication::exec();
-  }
+  ~WindowBench() { begin_anew_after(shell); }
 
   /// Lets all that waits happen.
   static void settle() { QCoreApplication::processEvents(); }
@@ -72,10 +80,7 @@ struct WindowBench {
     return *object;
   }
 
-  ProgramFolders folders() const {
-    const std::filesystem::path source = LUNAVOX_SOURCE_DIR;
-    return {source / "data", source / "skin", home.path() / "config", home.path() / "state"};
-  }
+  ProgramFolders folders() const { return folders_with_home(home); }
 
   const bool shown_boxes;
   TempFolder home;

@@ -1,0 +1,142 @@
+#include "tests/support/shown_boxes.h"
+#include "window_bench.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QGuiApplication>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+
+#include <gmock/gmock.h>
+
+namespace lunavox {
+namespace {
+
+using test::error_box;
+using test::ShownBoxes;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+/// A program that has not been started yet, on a machine with two MIDI keyboards.
+struct StartWindowTest : testing::Test {
+  ~StartWindowTest() override { test::begin_anew_after(shell); }
+
+  void remember(const std::string& config) {
+    std::filesystem::create_directories(home.path() / "config");
+    home.write("config/lvconfig.ini", config);
+  }
+
+  /// Does something with the input device dialog once it asks.
+  void at_form2(const std::function<void(QListWidget& devices, QDialog& form2)>& act) {
+    boxes.next<QDialog>([act](QDialog& form2) {
+      EXPECT_EQ(form2.objectName().toStdString(), "Form2");
+      auto* devices = form2.findChild<QListWidget*>(QStringLiteral("List1"));
+      ASSERT_NE(devices, nullptr);
+      act(*devices, form2);
+    });
+  }
+
+  static void click(QDialog& form2, const char* button) {
+    QTest::mouseClick(form2.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
+  }
+
+  bool listens() { return shell.editor().current_loop.is(shell.editor().listen); }
+
+  test::TempFolder home;
+  test::RecordingOutput outputs;
+  test::ScriptedInputs inputs{{"Keys", "Pads"}};
+  ManualClock clock;
+  test::ScriptedDialogs dialogs;
+  ShownBoxes boxes;
+  WindowShell shell{{outputs, inputs, clock, test::folders_with_home(home)}, {}, &dialogs};
+};
+
+TEST_F(StartWindowTest, TheFirstStartAsksForTheInputAndGoesOnWithTheChosenOne) {
+  at_form2([this](QListWidget& devices, QDialog& form2) {
+    ASSERT_EQ(devices.count(), 2);
+    EXPECT_EQ(devices.item(0)->text().toStdString(), "Keys");
+    EXPECT_EQ(devices.item(1)->text().toStdString(), "Pads");
+    EXPECT_THAT(outputs.calls, IsEmpty()) << "nothing is set up before the answer";
+    devices.setCurrentRow(1);
+    click(form2, "Command1");
+  });
+  shell.start("");
+  EXPECT_EQ(inputs.opened, 1);
+  EXPECT_THAT(inputs.calls, ElementsAre("start"));
+  EXPECT_EQ(home.read("config/lvconfig.ini"), "input=1\r\nboot=1\r\n");
+  EXPECT_TRUE(shell.window().isVisible());
+  EXPECT_EQ(shell.editor().song.track_count, 1);
+  EXPECT_TRUE(listens());
+}
+
+TEST_F(StartWindowTest, QuittingInsteadOfChoosingEndsTheProgram) {
+  at_form2([](QListWidget&, QDialog& form2) { click(form2, "Command2"); });
+  shell.start("");
+  EXPECT_EQ(shell.ended(), 0);
+  EXPECT_EQ(inputs.opened, -1);
+  EXPECT_THAT(outputs.calls, IsEmpty());
+  EXPECT_FALSE(home.has("config/lvconfig.ini"));
+}
+
+TEST_F(StartWindowTest, ARememberedInputIsOpenedUnasked) {
+  remember("input=1\r\nboot=1\r\n");
+  shell.start("");
+  EXPECT_EQ(inputs.opened, 1);
+  EXPECT_TRUE(listens());
+}
+
+TEST_F(StartWindowTest, AForgottenInputIsAskedForAgain) {
+  remember("input=\r\nboot=1\r\n");
+  at_form2([](QListWidget& devices, QDialog& form2) {
+    devices.setCurrentRow(0);
+    click(form2, "Command1");
+  });
+  shell.start("");
+  EXPECT_EQ(inputs.opened, 0);
+}
+
+TEST_F(StartWindowTest, AnInputThatCannotBeOpenedEndsTheProgramAfterItsMessage) {
+  remember("input=0\r\nboot=1\r\n");
+  inputs.opens = false;
+  shell.start("");
+  EXPECT_THAT(dialogs.messages, Contains(error_box("No Midi input device found", "Error")));
+  EXPECT_EQ(shell.ended(), 1);
+  EXPECT_THAT(outputs.calls, IsEmpty()) << "the output is opened after the input";
+}
+
+TEST_F(StartWindowTest, WithoutAnInputNobodyIsAskedAndTheEditorIsReady) {
+  inputs.device_names.clear();
+  shell.start("");
+  EXPECT_TRUE(listens());
+  EXPECT_FALSE(shell.ended());
+}
+
+TEST_F(StartWindowTest, TheScreensSizeIsTheOneThatTheWindowIsFittedTo) {
+  const QSize size = QGuiApplication::primaryScreen()->size();
+  EXPECT_EQ(shell.editor().screen.width(), size.width());
+  EXPECT_EQ(shell.editor().screen.height(), size.height());
+}
+
+TEST_F(StartWindowTest, TheProgressBoxStandsInTheMainWindow) {
+  auto* form3 = shell.window().findChild<QWidget*>(QStringLiteral("Form3"));
+  ASSERT_NE(form3, nullptr);
+  EXPECT_EQ(form3->windowTitle().toStdString(), "PLEASE WAIT...");
+}
+
+TEST_F(StartWindowTest, ClosingStopsAndResetsTheInputResetsTheOutputAndClosesBoth) {
+  remember("input=0\r\nboot=1\r\n");
+  shell.start("");
+  inputs.calls.clear();
+  outputs.calls.clear();
+  EXPECT_TRUE(shell.window().close());
+  EXPECT_THAT(inputs.calls, ElementsAre("stop", "reset", "close"));
+  using Call = test::RecordingOutput::Call;
+  EXPECT_THAT(outputs.calls,
+              ElementsAre(Call{Call::kReset, 0, 0, {}}, Call{Call::kClose, 0, 0, {}}));
+  EXPECT_EQ(shell.ended(), 0);
+}
+
+}  // namespace
+}  // namespace lunavox
