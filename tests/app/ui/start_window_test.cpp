@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScreen>
+#include <QSettings>
 
 #include <gmock/gmock.h>
 
@@ -117,6 +118,22 @@ TEST_F(StartWindowTest, TheScreensSizeIsTheOneThatTheWindowIsFittedTo) {
   const QSize size = QGuiApplication::primaryScreen()->size();
   EXPECT_EQ(shell.editor().screen.width(), size.width());
   EXPECT_EQ(shell.editor().screen.height(), size.height());
+}
+
+TEST_F(StartWindowTest, TheWindowRemembersItsPlace) {
+  inputs.device_names.clear();
+  shell.start("");
+  shell.window().setWindowState(Qt::WindowNoState);
+  shell.window().setGeometry(40, 30, 850, 560);
+  shell.window().close();
+  WindowShell next({outputs, inputs, clock, test::folders_with_home(home)}, {}, &dialogs);
+  EXPECT_EQ(next.window().geometry(), QRect(40, 30, 850, 560));
+}
+
+TEST_F(StartWindowTest, AWindowWithoutARememberedPlaceFillsTheScreen) {
+  QSettings().remove(QStringLiteral("window/place"));
+  WindowShell first({outputs, inputs, clock, test::folders_with_home(home)}, {}, &dialogs);
+  EXPECT_TRUE(first.window().isMaximized());
 }
 
 TEST_F(StartWindowTest, TheProgressBoxStandsInTheMainWindow) {
