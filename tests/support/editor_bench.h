@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/start_up.h"
+#include "midi/ports/logging_output_devices.h"
 #include "tests/support/recorded_progress.h"
 #include "tests/support/recording_output.h"
 #include "tests/support/scripted_dialogs.h"
@@ -8,6 +9,7 @@
 #include "tests/support/studio.h"
 #include "tests/support/temp_folder.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,8 +18,9 @@ namespace lunavox::test {
 /// The whole editor but its window, on a clock that is advanced by hand, devices that write down
 /// and a program folder of its own.
 struct EditorBench {
-  explicit EditorBench(const Screen& screen = Screen(1024, 768))
-      : editor({output, inputs, clock, dialogs, progress, count_in}, screen) {
+  /// @param log_file  of all that is sent; empty for none
+  explicit EditorBench(const Screen& screen = Screen(1024, 768), const std::string& log_file = {})
+      : editor({begin_log(log_file), inputs, clock, dialogs, progress, count_in}, screen) {
     editor.shell.end_program = [this](int status) { end_status = status; };
     std::string kits;
     for (int kit = 0; kit < 9; ++kit) {
@@ -33,9 +36,15 @@ struct EditorBench {
     start_up.load();
   }
 
+  OutputDevices& begin_log(const std::string& file) {
+    if (file.empty()) return output;
+    return log.emplace(output, file);
+  }
+
   ManualClock clock{1000};
   ScriptedDialogs dialogs;
   RecordingOutput output;
+  std::optional<LoggingOutputDevices> log;
   ScriptedInputs inputs;
   RecordedProgress progress;
   RecordedCountIn count_in;

@@ -45,6 +45,15 @@ constexpr std::array<Habit, kDeeds> kHabits = {{
     {"kSave", 1},
     {"kSaveAs", 1},
     {"kSaveNowhere", 1},
+    {"kExport", 1},
+    {"kOpenRecent", 1},
+    {"kOpenDamaged", 1},
+    {"kChooseOutput", 2},
+    {"kScroll", 2},
+    {"kCancelCountIn", 1},
+    {"kLetPlay", 5},
+    {"kLoseProgram", 1},
+    {"kTidyUp", 0},
 }};
 
 }  // namespace

@@ -39,8 +39,17 @@ enum class Deed {
   kSave,
   kSaveAs,
   kSaveNowhere,
+  kExport,
+  kOpenRecent,
+  kOpenDamaged,
+  kChooseOutput,
+  kScroll,
+  kCancelCountIn,
+  kLetPlay,      ///< lets seconds go by, line after line
+  kLoseProgram,  ///< what a program that ends early leaves behind
+  kTidyUp,       ///< ends everything and lets go of every key; never drawn by chance
 };
-inline constexpr int kDeeds = static_cast<int>(Deed::kSaveNowhere) + 1;
+inline constexpr int kDeeds = static_cast<int>(Deed::kTidyUp) + 1;
 
 /// One thing done. Its numbers are brought into the range that the editor offers at that time, so
 /// that an action stays possible when those before it are left out.

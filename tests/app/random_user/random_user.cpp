@@ -1,6 +1,5 @@
 #include "random_user.h"
 
-#include "files/song_writer.h"
 #include "grid/runtime_error.h"
 
 #include <algorithm>
@@ -35,16 +34,17 @@ auto pick(const Table& table, int number) {
   return table[static_cast<std::size_t>(number) % table.size()];
 }
 
-constexpr const char* kSongName = "tune.lvx";
-
 }  // namespace
 
-RandomUser::RandomUser()
-    : recent_(bench_.folder.file("recent")),
+RandomUser::RandomUser(const std::string& log_file)
+    : bench_(Screen(1024, 768), log_file),
+      recent_(bench_.folder.file("recent")),
       files_(
           {bench_.editor.song, bench_.editor.flags, bench_.editor.tracks, bench_.editor.song_length,
            bench_.editor.song_file, bench_.editor.midi_export, recent_, bench_.dialogs},
-          "readme.htm") {
+          "readme.htm"),
+      recovery_(bench_.editor.song, bench_.editor.flags, bench_.editor.song_file, bench_.clock,
+                bench_.folder.path() / "state") {
   Editor& e = bench_.editor;
   files_.set_hooks({[&e] {
                       if (e.flags.playing) e.transport.playnotes_mouseup();
@@ -62,7 +62,22 @@ RandomUser::RandomUser()
   bench_.inputs.device_names = {"Keyboard"};
   bench_.start();
   bench_.start_up.getinputid(0);
-  bench_.output.calls.clear();
+  bench_.output.device_names = {"Synth", "Module", "Other module"};
+  e.outputdev.fill();
+  e.notequeue.set_wake([this] { ++waiting_; });
+  listen_for_stop();
+}
+
+ScriptedInputs& RandomUser::share_inputs() {
+  shared_ = true;
+  return bench_.inputs;
+}
+
+std::vector<LogMark> RandomUser::take_marks() {
+  if (bench_.log) bench_.log->flush();
+  std::vector<LogMark> marks;
+  marks.swap(marks_);
+  return marks;
 }
 
 std::string RandomUser::act(const Action& action) {
@@ -74,7 +89,7 @@ std::string RandomUser::act(const Action& action) {
     expect(false, std::string("no rule throws here: ") + error.what());
   }
   listen_for_stop();
-  return wrong_;
+  return wrong_.empty() ? ledger_.wrong() : wrong_;
 }
 
 void RandomUser::prepare_answers(const Action& action) {
@@ -85,9 +100,10 @@ void RandomUser::prepare_answers(const Action& action) {
   dialogs.saved.clear();
   bench_.progress.shown.clear();
   bench_.inputs.calls.clear();
+  bench_.count_in.calls.clear();
   dialogs.inputs = {pick(kAnswers, action.b)};
   dialogs.answers = {Answer::kNo};
-  dialogs.files = {bench_.folder.file(kSongName)};
+  dialogs.files = {bench_.folder.file("tune.lvx")};
   voice_ = {action.b % 128, action.b % kNoteColumns};
 }
 
@@ -155,19 +171,35 @@ void RandomUser::perform(const Action& action) {
     case Deed::kWait:
       return wait(action.a);
     case Deed::kNew:
-      return files_.menunew_click();
+      return begin_song(action.b);
     case Deed::kOpen:
       return open(false);
     case Deed::kOpenOver:
       return open(true);
     case Deed::kSave:
+      return save(false);
     case Deed::kSaveAs:
-      if (action.deed == Deed::kSave) files_.menusave_click();
-      if (action.deed == Deed::kSaveAs) files_.menusaveas_click();
-      saved_tracks_ = e.song.track_count;
-      return;
+      return save(true);
     case Deed::kSaveNowhere:
       return save_nowhere();
+    case Deed::kExport:
+      return export_song();
+    case Deed::kOpenRecent:
+      return open_recent(action.a);
+    case Deed::kOpenDamaged:
+      return open_damaged(action.a, action.b);
+    case Deed::kChooseOutput:
+      return choose_output(action.a);
+    case Deed::kScroll:
+      return scroll(action.a, action.b);
+    case Deed::kCancelCountIn:
+      return e.realtime_loop.cancel();
+    case Deed::kLetPlay:
+      return let_play(10 * action.a);
+    case Deed::kLoseProgram:
+      return lose_program();
+    case Deed::kTidyUp:
+      return tidy_up();
   }
 }
 
@@ -230,11 +262,31 @@ void RandomUser::tick_option(int option) {
   box = !box.get();
 }
 
+void RandomUser::scroll(int row, int track) {
+  const Editor& e = bench_.editor;
+  bench_.editor.song.tracks.set_top_row(1 + row % e.song.last_row());
+  bench_.editor.screen.defilchan = 1 + track % e.screen.defilchan_max.get();
+}
+
+void RandomUser::choose_output(int item) {
+  Editor& e = bench_.editor;
+  const int index = item % static_cast<int>(e.outputdev.items.get().size());
+  expect(e.outputdev.click(index), "an output opens");
+}
+
 void RandomUser::receive(int note, int velocity) {
   constexpr std::array<std::uint32_t, 4> kStatuses = {0x90, 0x93, 0x80, 0xB0};
-  const auto data1 = static_cast<std::uint32_t>(note % 128);
+  const std::uint32_t status = pick(kStatuses, note / 128);
   const auto data2 = static_cast<std::uint32_t>(velocity % 128);
-  bench_.inputs.play(data2 << 16 | data1 << 8 | pick(kStatuses, note / 128));
+  int data1 = note % 128;
+  if (status != 0xB0) {
+    const bool ends = status == 0x80 || data2 == 0;
+    // What is let go is mostly what is held.
+    if (ends && !held_.empty()) data1 = *held_.begin();
+    if (ends) held_.erase(data1);
+    if (!ends) held_.insert(data1);
+  }
+  bench_.inputs.play(data2 << 16 | static_cast<std::uint32_t>(data1) << 8 | status);
   pass();
 }
 
@@ -245,76 +297,89 @@ void RandomUser::wait(int ms) {
   }
 }
 
-void RandomUser::open(bool over) {
-  if (saved_tracks_ == 0) return;
-  Editor& e = bench_.editor;
-  if (!over) files_.menunew_click();
-  bench_.dialogs.answers = {Answer::kNo};
-  // A file is read for all tracks of the song: one with fewer tracks ends too early for it.
-  const bool too_short = saved_tracks_ < e.song.track_count;
-  e.typing_mode.finish();
-  const std::string before = song_text(e.song, TextGuard::kNone, {});
-  bool thrown = false;
-  try {
-    files_.menuopen_click();
-  } catch (const RuntimeError&) {
-    thrown = true;
+void RandomUser::let_play(int ms) {
+  auto left = static_cast<std::uint32_t>(ms);
+  while (left > 0) {
+    const std::uint32_t now = bench_.clock.timeGetTime();
+    const auto due = bench_.editor.current_loop.get()->next_due();
+    const std::uint32_t step = due ? std::clamp(*due - now, 1U, left) : left;
+    bench_.clock.advance(step);
+    left -= step;
+    pass();
   }
-  expect(thrown == too_short, "opening throws where the file has fewer tracks, and only there");
-  if (thrown) {
-    expect(song_text(e.song, TextGuard::kNone, {}) == before, "a failed opening changes nothing");
-  } else if (too_short) {
-    files_.menunew_click();
-  }
-}
-
-void RandomUser::save_nowhere() {
-  const std::string before = bench_.editor.song_file.current_name;
-  bench_.dialogs.files = {bench_.folder.file("no such folder/tune.lvx")};
-  bool thrown = false;
-  try {
-    files_.menusaveas_click();
-  } catch (const RuntimeError&) {
-    thrown = true;
-  }
-  expect(thrown, "saving into a folder that is not there throws");
-  expect(bench_.editor.song_file.current_name.get() == before, "a failed save keeps the name");
 }
 
 void RandomUser::pass() {
-  bench_.editor.current_loop.get()->pass(bench_.clock.timeGetTime());
+  Editor& e = bench_.editor;
+  const std::uint32_t now = bench_.clock.timeGetTime();
+  if (waiting_ > NoteQueue::kSlots) lost_ = true;
+  e.current_loop.get()->pass(now);
+  if (e.notequeue.front() == 0) waiting_ = 0;
+  recovery_.pass(now);
   listen_for_stop();
 }
 
+void RandomUser::tidy_up() {
+  Editor& e = bench_.editor;
+  if (e.flags.recording) e.recorder.recordnotes_click();
+  if (e.flags.playing) e.transport.playnotes_mouseup();
+  listen_for_stop();
+  e.typing_mode.finish();
+  pass();
+  e.note_keys.release_all();
+  pass();
+  std::set<int> notes = held_;
+  // A release that was overwritten never came.
+  for (int note = 0; note < 128 && (lost_ || shared_); ++note) notes.insert(note);
+  let_go(notes);
+  listen_for_stop();
+  meet(PlayEvent::kHandsOff);
+  files_.menunew_click();
+  // Of the clipboard too nothing is left.
+  e.song.tracks.set_cursor(1, 1);
+  e.clipboard.copyproc();
+  recovery_.wait();
+}
+
+void RandomUser::let_go(const std::set<int>& notes) {
+  for (const int note : notes) {
+    bench_.inputs.play(static_cast<std::uint32_t>(note) << 8 | 0x80);
+    pass();
+  }
+  held_.clear();
+  lost_ = false;
+}
+
 void RandomUser::listen_for_stop() {
+  using Call = RecordingOutput::Call;
   const Editor& e = bench_.editor;
-  ear_.hear(bench_.output.calls);
+  for (const Call& call : bench_.output.calls) {
+    if (call.kind == Call::kShort) ledger_.take_short(call.packed);
+    if (call.kind == Call::kLong) ledger_.take_sysex();
+    if (call.kind == Call::kReset) meet(PlayEvent::kDeviceReset);
+  }
   bench_.output.calls.clear();
+  const std::uint32_t now = bench_.clock.timeGetTime();
+  if (e.flags.playing) played_ms_ += elapsed_ms(heard_at_, now);
+  heard_at_ = now;
   // Realtime recording leaves what is held sounding until it is released.
   const bool playing_song = e.flags.playing && e.current_loop.is(e.play_loop);
-  if (playing_song_ && !playing_song) {
-    expect(ear_.silent(), "a stop leaves no note sounding, but there is" + ear_.sounding());
+  if (playing_song != playing_song_) {
+    const bool taken_over = e.flags.recording && !recording_;
+    meet(playing_song ? PlayEvent::kPlays
+                      : (taken_over ? PlayEvent::kTakenOver : PlayEvent::kStops));
   }
   playing_song_ = playing_song;
+  recording_ = e.flags.recording;
+}
+
+void RandomUser::meet(PlayEvent event) {
+  ledger_.meet(event);
+  if (bench_.log) marks_.push_back({ledger_.messages(), event});
 }
 
 void RandomUser::expect(bool held, const std::string& what) {
   if (!held && wrong_.empty()) wrong_ = what;
-}
-
-std::string RandomUser::compare_reopened() {
-  Editor& e = bench_.editor;
-  const std::string text = song_text(e.song, TextGuard::kNone, {});
-  EditorBench other;
-  other.start();
-  other.editor.song_file.current_name = other.folder.write("again.lvx", text);
-  try {
-    other.editor.song_file.procopen();
-    other.editor.song_file.procsave();
-  } catch (const RuntimeError& error) {
-    return std::string("a saved song opens again: ") + error.what();
-  }
-  return other.folder.read("again.lvx") == text ? "" : "a song that is opened saves as it was";
 }
 
 }  // namespace lunavox::test

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "files/file_commands.h"
+#include "files/recent_files.h"
+#include "files/recovery.h"
+#include "log_checker.h"
+#include "note_ledger.h"
+#include "tests/support/editor_bench.h"
+#include "user_action.h"
+
+#include <atomic>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace lunavox::test {
+
+/// Does actions in an editor of its own.
+class RandomUser {
+ public:
+  /// @param log_file  of all that the editor sends; empty for none
+  explicit RandomUser(const std::string& log_file = {});
+
+  /// Does one action.
+  /// @return what is wrong afterwards, empty where all is well
+  std::string act(const Action& action);
+
+  /// Saves, opens the file in a fresh editor and saves from there.
+  /// @return what is wrong, empty where both files are the same
+  std::string compare_reopened();
+
+  const Editor& editor() const { return bench_.editor; }
+  /// Somebody else plays on the same input, from another thread: what is held is not known then.
+  ScriptedInputs& share_inputs();
+
+  /// The notes that sounded so far.
+  const NoteLedger& ledger() const { return ledger_; }
+  /// Milliseconds so far in which the song played or was recorded in real time.
+  long long played_ms() const { return played_ms_; }
+  /// What was met since the last call, for whoever reads the log. All messages are in its file.
+  std::vector<LogMark> take_marks();
+
+ private:
+  void perform(const Action& action);
+  void prepare_answers(const Action& action);
+  void press_key(int key);
+  void release_key(int key);
+  void select(int rows, int columns);
+  void scroll(int row, int track);
+  void enter_field(int field, int text);
+  void tick_option(int option);
+  void receive(int note, int velocity);
+  void wait(int ms);
+  void let_play(int ms);
+  void pass();
+  void tidy_up();
+  void let_go(const std::set<int>& notes);
+  void choose_output(int item);
+
+  // random_user_files.cpp
+  void begin_song(int answer);
+  void open(bool over);
+  void open_recent(int place);
+  void open_damaged(int place, int damage);
+  void open_file(const std::string& name);
+  void save(bool as);
+  void save_nowhere();
+  void export_song();
+  void lose_program();
+
+  /// Accounts for what was sent since the last time, and for a stop among it.
+  void listen_for_stop();
+  void meet(PlayEvent event);
+  void expect(bool held, const std::string& what);
+
+  EditorBench bench_;
+  RecentFiles recent_;
+  FileCommands files_;
+  RecoveryFile recovery_;
+  NoteLedger ledger_;
+  std::vector<LogMark> marks_;
+
+  bool playing_song_ = false;   ///< when it was last listened
+  bool recording_ = false;      ///< then
+  std::uint32_t heard_at_ = 0;  ///< the time then
+  long long played_ms_ = 0;
+  std::set<int> held_;                ///< keys of the MIDI keyboard that are down
+  std::atomic<int> waiting_{0};       ///< writes to the note queue since it was last empty
+  bool lost_ = false;                 ///< messages have been overwritten there
+  bool shared_ = false;               ///< somebody else plays too
+  std::map<std::string, int> saved_;  ///< tracks of the song in each file that was saved
+  VoiceCell voice_;                   ///< what the voice dialogs are answered with
+  std::string wrong_;
+};
+
+}  // namespace lunavox::test

@@ -1,0 +1,49 @@
+#include "random_user.h"
+
+#include "environment.h"
+#include "session.h"
+
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace lunavox {
+namespace {
+
+using test::Action;
+using test::Script;
+
+Script random_script(unsigned seed, std::size_t length) {
+  std::mt19937 chance(seed);
+  Script script;
+  while (script.size() < length) script.push_back(test::random_action(chance));
+  return script;
+}
+
+// LUNAVOX_RANDOM_USERS is the number of users, LUNAVOX_RANDOM_SEED the seed of the first.
+TEST(RandomUser, FindsTheEditorInOrderAfterEachAction) {
+  constexpr std::size_t kActions = 500;
+  const unsigned first = test::from_environment("LUNAVOX_RANDOM_SEED", 1);
+  const unsigned users = test::from_environment("LUNAVOX_RANDOM_USERS", 5);
+  for (unsigned seed = first; seed < first + users; ++seed) {
+    Script script = random_script(seed, kActions);
+    const test::Outcome outcome = test::replay(script);
+    if (outcome.wrong.empty()) continue;
+    script.resize(outcome.actions);
+    ADD_FAILURE() << "Seed " << seed << ": " << failure_text(std::move(script));
+  }
+}
+
+TEST(RandomUser, ReplaysAScriptToTheSameSong) {
+  const Script script = random_script(7, 60);
+  test::RandomUser one;
+  test::RandomUser other;
+  for (const Action& action : script) {
+    one.act(action);
+    other.act(action);
+  }
+  EXPECT_TRUE(one.editor().song == other.editor().song);
+}
+
+}  // namespace
+}  // namespace lunavox
