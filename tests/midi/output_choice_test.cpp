@@ -112,6 +112,19 @@ TEST_F(OutputChoiceTest, TheXgListsShowTheirFirstEntriesAndTheSongStaysUnmodifie
   EXPECT_EQ(studio.output.sysexes().size(), 4U);
 }
 
+TEST_F(OutputChoiceTest, ADeviceThatRefusesSysExIsChosenAllTheSameAfterAMessageForEach) {
+  studio.output.unprepare_result = 65;
+  studio.song.variation = 3;
+  EXPECT_TRUE(choice.click(2));
+  const Message busy = {"Error in unpreparing header\r\nThe device is busy.", "", Icon::kNone,
+                        Buttons::kOk};
+  EXPECT_EQ(studio.dialogs.messages, (std::vector<Message>{busy, busy, busy, busy}));
+  EXPECT_EQ(studio.output.sysexes().size(), 4U);
+  EXPECT_EQ(checked(), std::vector<int>{2});
+  EXPECT_EQ(studio.song.variation, 0);
+  EXPECT_TRUE(ended.empty());
+}
+
 TEST_F(OutputChoiceTest, WithoutAnOutputTheProgramEndsAfterTheReasonAndItsMessage) {
   studio.output.opens = false;
   EXPECT_FALSE(choice.click(2));

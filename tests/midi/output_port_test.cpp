@@ -75,6 +75,14 @@ TEST_F(OutputPortTest, ATextThatIsNoNumberIsSentAsTheMessage0) {
   EXPECT_EQ(output.shorts(), (Messages{0, 0}));
 }
 
+TEST_F(OutputPortTest, AShortMessageThatFailsIsPassedOver) {
+  output.short_result = 5;
+  port.send(0x643C90);
+  port.resetchannels();
+  EXPECT_EQ(output.shorts().size(), 1U + kPendingEntries + 15 * 11);
+  EXPECT_TRUE(dialogs.messages.empty());
+}
+
 TEST_F(OutputPortTest, ResetChannelsSendsEveryPendingNoteOffThenTheControllerDefaults) {
   port.keep_note_off(1, 1, "643C99");
   port.keep_note_off(2, 8, "7F4090");

@@ -114,9 +114,11 @@ TEST_F(XgEffectsTest, WithoutAValidEntryTheBareMessageIsSent) {
 
 TEST_F(XgEffectsTest, AFailureToSendIsTold) {
   studio.output.long_result = 1;
-  xg.reverb_click(0);
+  xg.reverb_click(2);
   EXPECT_EQ(studio.dialogs.messages.back().text,
             "Error in sending long message\r\nThe device is busy.");
+  EXPECT_EQ(studio.song.reverb, 2) << "the choice stands";
+  EXPECT_TRUE(studio.flags.modified);
 }
 
 }  // namespace

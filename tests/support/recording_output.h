@@ -28,6 +28,7 @@ class RecordingOutput : public OutputDevices {
 
   // What is to fail.
   bool opens = true;
+  MidiResult short_result = kMidiOk;
   MidiResult prepare_result = kMidiOk;
   MidiResult long_result = kMidiOk;
   MidiResult unprepare_result = kMidiOk;
@@ -77,7 +78,7 @@ class RecordingOutput : public OutputDevices {
 
     MidiResult short_message(std::uint32_t packed) override {
       note({Call::kShort, 0, packed, {}});
-      return kMidiOk;
+      return owner_.short_result;
     }
     MidiResult prepare_header(const SysExBytes& data) override {
       note({Call::kPrepare, 0, 0, data});
