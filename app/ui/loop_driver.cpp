@@ -3,7 +3,9 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <algorithm>
+#include <chrono>
 #include <memory>
+#include <thread>
 
 namespace lunavox {
 namespace {
@@ -17,7 +19,8 @@ std::int32_t remaining_ms(std::uint32_t now, std::uint32_t due) {
 
 }  // namespace
 
-LoopDriver::LoopDriver(CurrentLoop& current, Clock& clock) : current_(current), clock_(clock) {
+LoopDriver::LoopDriver(CurrentLoop& current, Clock& clock, std::function<void(bool)> hurry)
+    : current_(current), clock_(clock), hurry_(std::move(hurry)) {
   timer_.setTimerType(Qt::PreciseTimer);
   timer_.setSingleShot(true);
   connect(&timer_, &QTimer::timeout, this, [this] { run(); });
@@ -26,6 +29,7 @@ LoopDriver::LoopDriver(CurrentLoop& current, Clock& clock) : current_(current), 
 
 LoopDriver::~LoopDriver() {
   current_.on_change({});
+  hurry(false);
 }
 
 void LoopDriver::wake() {
@@ -58,6 +62,24 @@ void LoopDriver::run() {
   schedule();
 }
 
+void LoopDriver::make_room(int work_ms) {
+  const auto left = left_ms();
+  if (in_pass_ || !left || *left > work_ms) return;
+  // In short sleeps, to notice what arrives; counted, for a clock that is set by hand stands still.
+  for (int sleeps = *left - kSpinMs; sleeps > 0 && left_ms().value_or(0) > kSpinMs; --sleeps) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    if (woken_.exchange(false)) run();
+  }
+  run();
+}
+
+std::optional<std::int32_t> LoopDriver::left_ms() {
+  const Loop* loop = current_.get();
+  const auto due = loop != nullptr ? loop->next_due() : std::nullopt;
+  if (!due) return std::nullopt;
+  return remaining_ms(clock_.timeGetTime(), *due);
+}
+
 void LoopDriver::wait_until(std::uint32_t due) {
   if (remaining_ms(clock_.timeGetTime(), due) > kSpinMs) return;
   while (remaining_ms(clock_.timeGetTime(), due) > 0) {
@@ -65,14 +87,20 @@ void LoopDriver::wait_until(std::uint32_t due) {
 }
 
 void LoopDriver::schedule() {
-  const Loop* loop = current_.get();
-  const auto due = loop != nullptr ? loop->next_due() : std::nullopt;
-  if (!due) {
+  const auto left = left_ms();
+  hurry(left.has_value());
+  if (!left) {
     timer_.stop();
     return;
   }
   // An overdue loop goes on after the window events that wait.
-  timer_.start(std::max(remaining_ms(clock_.timeGetTime(), *due) - kSpinMs, 0));
+  timer_.start(std::max(*left - kSpinMs, 0));
+}
+
+void LoopDriver::hurry(bool lines) {
+  if (lines == hurried_) return;
+  hurried_ = lines;
+  if (hurry_) hurry_(lines);
 }
 
 }  // namespace lunavox

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QTimer>
 #include <atomic>
+#include <functional>
 
 namespace lunavox {
 
@@ -15,11 +16,16 @@ namespace lunavox {
 /// handles window events.
 class LoopDriver : public QObject {
  public:
-  LoopDriver(CurrentLoop& current, Clock& clock);
+  /// @param hurry  told when lines begin to come due, and when they cease; may be empty
+  LoopDriver(CurrentLoop& current, Clock& clock, std::function<void(bool lines)> hurry = {});
   ~LoopDriver() override;
 
   /// Something has arrived for the current loop. Safe from any thread; many calls make one pass.
   void wake();
+  /// Work that takes long is about to begin on this thread: a line that comes due before its end is
+  /// played first. What arrives while that line is waited for is dealt with.
+  /// @param work_ms  what the work takes, milliseconds
+  void make_room(int work_ms);
 
  protected:
   void customEvent(QEvent* event) override;
@@ -27,13 +33,18 @@ class LoopDriver : public QObject {
  private:
   void run();
   void schedule();
+  void hurry(bool lines);
+  /// Milliseconds until the loop is due, less than 0 where it is late; none where it is never due.
+  std::optional<std::int32_t> left_ms();
   void wait_until(std::uint32_t due);
 
   CurrentLoop& current_;
   Clock& clock_;
+  std::function<void(bool)> hurry_;
   QTimer timer_;
   std::atomic<bool> woken_{false};
   bool in_pass_ = false;
+  bool hurried_ = false;
   bool missed_ = false;  // something came for the loop during its pass
 };
 

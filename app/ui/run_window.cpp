@@ -1,6 +1,7 @@
 #include "app/ui/run_window.h"
 
 #include "app/ui/keyboard_detection.h"
+#include "app/ui/line_priority.h"
 #include "app/ui/termination_signals.h"
 #include "app/ui/widgets/theme.h"
 #include "app/ui/window_shell.h"
@@ -55,7 +56,8 @@ int run_window(const CommandLine& line, OutputDevices& outputs, InputDevices& in
   SystemClock clock;
   const auto executable = QApplication::applicationFilePath().toStdString();
   const StartUp::Wishes wishes = {line.output, line.input, keyboard_layout(line.keyboard)};
-  WindowShell shell({outputs, inputs, clock, find_program_folders(executable)}, wishes);
+  WindowShell shell({outputs, inputs, clock, find_program_folders(executable), run_before_others},
+                    wishes);
   return run(application, shell, line.song);
 }
 

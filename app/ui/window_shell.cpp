@@ -46,7 +46,8 @@ WindowShell::WindowShell(const Machine& machine, const StartUp::Wishes& wishes, 
       recovery_(editor_->song, editor_->flags, editor_->song_file, machine.clock, folders_.state),
       keyboard_(editor_->note_keys, editor_->typing_mode, wishes.keyboard),
       skin_(folders_.skin),
-      driver_(editor_->current_loop, machine.clock) {
+      driver_(editor_->current_loop, machine.clock, machine.hurry),
+      line_room_(driver_, machine.clock) {
   Editor& e = *editor_;
   const WindowModel model = {
       e.song,      e.flags,     e.screen,          e.song_length, e.options,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/start_up.h"
+#include "app/ui/line_room.h"
 #include "app/ui/loop_driver.h"
 #include "app/ui/main_window.h"
 #include "app/ui/note_keyboard.h"
@@ -33,6 +34,8 @@ class WindowShell {
     InputDevices& inputs;
     Clock& clock;
     ProgramFolders folders;
+    /// Told when lines begin to come due, and when they cease; may be empty.
+    std::function<void(bool lines)> hurry = {};
   };
 
   /// @param dialogs  where the editor asks and tells; null for boxes on the screen
@@ -85,6 +88,7 @@ class WindowShell {
   NoteKeyboard keyboard_;
   SkinPictures skin_;
   LoopDriver driver_;
+  LineRoom line_room_;
   std::unique_ptr<MainWindow> window_;
   std::unique_ptr<RecordOptionsDialog> record_options_;
   std::unique_ptr<InstrumentDialog> instrument_;

@@ -1,5 +1,7 @@
 #include "app/ui/loop_driver.h"
 
+#include "counting_loop.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QTest>
@@ -10,26 +12,8 @@
 namespace lunavox {
 namespace {
 
-/// Counts its passes, is due as often as it is told, and does what it is told in a pass.
-class CountingLoop : public Loop {
- public:
-  void pass(std::uint32_t now) override {
-    ++passes;
-    if (due) {
-      *due += 10;
-      if (lines_left > 0 && --lines_left == 0) due.reset();
-    }
-    last = now;
-    if (in_pass) in_pass();
-  }
-  std::optional<std::uint32_t> next_due() const override { return due; }
-
-  int passes = 0;
-  int lines_left = 0;
-  std::uint32_t last = 0;
-  std::optional<std::uint32_t> due;
-  std::function<void()> in_pass;
-};
+using test::CountingLoop;
+using test::TickingClock;
 
 struct LoopDriverTest : testing::Test {
   static void settle() {
@@ -107,6 +91,84 @@ TEST_F(LoopDriverTest, WithoutALoopNothingIsDriven) {
   current.set(nullptr);
   settle();
   EXPECT_EQ(loop.passes, 0);
+}
+
+TEST_F(LoopDriverTest, WorkThatEndsBeforeTheNextLineBeginsAtOnce) {
+  current.set(&loop);
+  settle();
+  loop.passes = 0;
+  loop.due = 21;
+  driver.make_room(20);
+  EXPECT_EQ(loop.passes, 0);
+}
+
+TEST_F(LoopDriverTest, WorkWithoutALineToComeBeginsAtOnce) {
+  current.set(&loop);
+  settle();
+  loop.passes = 0;
+  driver.make_room(20);
+  EXPECT_EQ(loop.passes, 0);
+}
+
+TEST_F(LoopDriverTest, NoPassBeginsInsideAnotherForWorkThatTakesLong) {
+  loop.in_pass = [&] { driver.make_room(20); };
+  loop.due = 0;
+  loop.lines_left = 1;
+  current.set(&loop);
+  settle();
+  EXPECT_EQ(loop.passes, 1);
+}
+
+TEST_F(LoopDriverTest, HurryIsAskedForWhileLinesComeDue) {
+  std::string asked;
+  {
+    LoopDriver hurried(current, clock, [&asked](bool lines) { asked += lines ? "on " : "off "; });
+    current.set(&loop);
+    settle();
+    EXPECT_EQ(asked, "") << "a loop that only waits for what arrives";
+    loop.due = 1000;
+    current.set(&loop);
+    settle();
+    hurried.wake();
+    settle();
+    EXPECT_EQ(asked, "on ");
+    loop.due.reset();
+    current.set(&loop);
+    settle();
+    EXPECT_EQ(asked, "on off ");
+    loop.due = 1000;
+    current.set(&loop);
+    settle();
+  }
+  EXPECT_EQ(asked, "on off on off ") << "and taken back at the end";
+}
+
+/// With a clock that goes on by itself.
+struct RunningLoopDriverTest : LoopDriverTest {
+  TickingClock ticking{100};
+  LoopDriver running{current, ticking};
+};
+
+TEST_F(RunningLoopDriverTest, ALineThatComesDueDuringLongWorkIsPlayedBeforeIt) {
+  current.set(&loop);
+  settle();
+  loop.passes = 0;
+  loop.due = ticking.timeGetTime() + 8;
+  loop.lines_left = 1;
+  const std::uint32_t due = *loop.due;
+  running.make_room(20);
+  EXPECT_EQ(loop.passes, 1);
+  EXPECT_GE(loop.last, due);
+}
+
+TEST_F(RunningLoopDriverTest, WhatArrivesWhileALineIsWaitedForIsDealtWith) {
+  current.set(&loop);
+  settle();
+  loop.passes = 0;
+  loop.due = ticking.timeGetTime() + 18;
+  running.wake();
+  running.make_room(20);
+  EXPECT_EQ(loop.passes, 2) << "one for what has arrived, one for the line";
 }
 
 }  // namespace

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "midi/clock.h"
+
+#include <QEvent>
+#include <QObject>
+#include <map>
+
+namespace lunavox {
+
+class LoopDriver;
+
+/// Keeps the window's long works from delaying a line: what repaints a window, and what a menu
+/// begins, comes after a line that is due before its end.
+class LineRoom : public QObject {
+ public:
+  LineRoom(LoopDriver& driver, Clock& clock);
+  ~LineRoom() override;
+
+ protected:
+  bool eventFilter(QObject* receiver, QEvent* event) override;
+
+ private:
+  void repaint(QObject& window, QEvent& event);
+
+  LoopDriver& driver_;
+  Clock& clock_;
+  std::map<QEvent::Type, int> expected_ms_;  // what repaints took lately
+  bool repainting_ = false;
+};
+
+}  // namespace lunavox
