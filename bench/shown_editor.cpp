@@ -1,5 +1,7 @@
 #include "bench/shown_editor.h"
 
+#include "app/ui/line_priority.h"
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -52,9 +54,9 @@ ProgramFolders folders_in(const ScratchFolder& scratch) {
 
 }  // namespace
 
-ShownEditor::ShownEditor(OutputDevices& outputs, int lines)
-    : shell_({outputs, inputs_, clock_, folders_in(folder_)}, {{}, "0", LayoutSet::kQwerty},
-             &dialogs_) {
+ShownEditor::ShownEditor(OutputDevices& outputs, int lines, Boxes boxes)
+    : shell_({outputs, inputs_, clock_, folders_in(folder_), run_before_others},
+             {{}, "0", LayoutSet::kQwerty}, boxes == Boxes::kAnswered ? &dialogs_ : nullptr) {
   shell_.start({});
   shell_.window().setWindowState(Qt::WindowNoState);
   shell_.window().setGeometry(0, 0, kWidth, kHeight);

@@ -8,14 +8,23 @@ class QWidget;
 
 namespace lunavox::bench {
 
+/// Where the editor asks and tells.
+enum class Boxes {
+  kAnswered,  ///< nothing is shown
+  kOnScreen,
+};
+
 /// The editor in its window, 1600 by 1200, with the largest song.
 class ShownEditor {
  public:
   /// @param outputs  where it plays to
   /// @param lines    of the song
-  explicit ShownEditor(OutputDevices& outputs, int lines = kMostLines);
+  /// @param boxes    who answers its questions
+  explicit ShownEditor(OutputDevices& outputs, int lines = kMostLines,
+                       Boxes boxes = Boxes::kAnswered);
 
   Editor& editor() { return shell_.editor(); }
+  QWidget& window() { return shell_.window(); }
   OneAnswer& dialogs() { return dialogs_; }
 
   /// Handles window events until the note grid has been painted and the display has taken it.
