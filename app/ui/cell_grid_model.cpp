@@ -1,5 +1,6 @@
 #include "app/ui/cell_grid_model.h"
 
+#include "app/ui/widgets/file_text.h"
 #include "app/ui/widgets/theme.h"
 
 #include <QBrush>
@@ -57,7 +58,7 @@ QVariant CellGridModel::data(const QModelIndex& index, int role) const {
   const Cell& cell = grid_.cell(at.row, at.column);
   switch (role) {
     case Qt::DisplayRole:
-      return QString::fromStdString(cell.text);
+      return file_text(cell.text);
     case Qt::ForegroundRole:
       return QBrush(theme::colour(cell.text_colour));
     case Qt::BackgroundRole:
@@ -65,7 +66,7 @@ QVariant CellGridModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
       return qt_alignment(cell.alignment);
     case Qt::AccessibleTextRole:
-      return cell.text.empty() ? QStringLiteral("empty") : QString::fromStdString(cell.text);
+      return cell.text.empty() ? QStringLiteral("empty") : file_text(cell.text);
     case Qt::AccessibleDescriptionRole:
       return spoken_place(index);
     default:

@@ -1,5 +1,6 @@
 #include "app/ui/cell_painter.h"
 
+#include "app/ui/widgets/file_text.h"
 #include "app/ui/widgets/theme.h"
 
 #include <QFontMetricsF>
@@ -64,7 +65,7 @@ const QStaticText& CellPainter::layout(const std::string& text) {
   const auto known = layouts_.find(text);
   if (known != layouts_.end()) return known->second;
   if (layouts_.size() >= kLayoutsKept) layouts_.clear();
-  QStaticText layout(QString::fromStdString(text));
+  QStaticText layout(file_text(text));
   layout.setTextFormat(Qt::PlainText);
   layout.setPerformanceHint(QStaticText::AggressiveCaching);
   layout.prepare({}, font_);

@@ -1,5 +1,6 @@
 #include "app/ui/panels.h"
 
+#include "app/ui/widgets/file_text.h"
 #include "app/ui/widgets/follow.h"
 #include "app/ui/widgets/number_field_box.h"
 #include "app/ui/widgets/picture_button.h"
@@ -135,8 +136,7 @@ VoicePanel::VoicePanel(Property<std::string>& voice_name)
   label->setFont(theme::cell_font(theme::scaled(13)));
   label->setFixedWidth(theme::scaled(84));
   row().addWidget(label);
-  follow(voice_name, label,
-         [label](const std::string& name) { label->setText(QString::fromStdString(name)); });
+  follow(voice_name, label, [label](const std::string& name) { label->setText(file_text(name)); });
 }
 
 BookmarkPanel::BookmarkPanel(SkinPictures& skin, ButtonPictures& pictures, Song& song,
@@ -158,7 +158,7 @@ BookmarkPanel::BookmarkPanel(SkinPictures& skin, ButtonPictures& pictures, Song&
   row().addWidget(remove);
   follow(song.bookmarks, list, [list, &bookmarks](const std::vector<Bookmark>& marks) {
     list->clear();
-    for (const Bookmark& mark : marks) list->addItem(QString::fromStdString(mark.name));
+    for (const Bookmark& mark : marks) list->addItem(file_text(mark.name));
     list->setCurrentIndex(bookmarks.selected);
   });
   follow(bookmarks.selected, list, [list](int index) { list->setCurrentIndex(index); });

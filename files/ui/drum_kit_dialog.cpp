@@ -1,5 +1,6 @@
 #include "files/ui/drum_kit_dialog.h"
 
+#include "app/ui/widgets/file_text.h"
 #include "app/ui/widgets/theme.h"
 
 #include <QHBoxLayout>
@@ -53,7 +54,7 @@ DrumKitDialog::DrumKitDialog(DrumChoice& choice, QWidget* parent)
 void DrumKitDialog::fill() {
   drumlist_->clear();
   for (const DrumKit& kit : choice_.kits().kits()) {
-    auto* item = new QListWidgetItem(QString::fromStdString(kit.name), drumlist_);
+    auto* item = new QListWidgetItem(file_text(kit.name), drumlist_);
     item->setData(Qt::UserRole, kit.program);
     item->setSizeHint({0, theme::scaled(kRowHeight)});
   }

@@ -1,5 +1,6 @@
 #include "files/ui/instrument_dialog.h"
 
+#include "app/ui/widgets/file_text.h"
 #include "app/ui/widgets/follow.h"
 #include "app/ui/widgets/number_field_box.h"
 #include "app/ui/widgets/theme.h"
@@ -31,7 +32,7 @@ constexpr int kDesktop = 50;
 QString details_of(const VoiceBanks& banks, VoiceCell cell) {
   if (!banks.has_voice(cell.program, cell.column)) return QStringLiteral("No voice");
   return QStringLiteral("%1 \u2014 program %2, bank %3, %4")
-      .arg(QString::fromStdString(banks.name(cell.program, cell.column)))
+      .arg(file_text(banks.name(cell.program, cell.column)))
       .arg(cell.program)
       .arg(banks.bank(cell.column, cell.program))
       .arg(QString::fromUtf8(voice_family(cell.program)));

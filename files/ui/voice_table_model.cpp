@@ -1,5 +1,7 @@
 #include "files/ui/voice_table_model.h"
 
+#include "app/ui/widgets/file_text.h"
+
 namespace lunavox {
 
 int VoiceTableModel::rowCount(const QModelIndex& parent) const {
@@ -15,7 +17,7 @@ QVariant VoiceTableModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:  // a long name of the user's own bank file may be cut short
-      return QString::fromStdString(banks_.name(index.row(), index.column()));
+      return file_text(banks_.name(index.row(), index.column()));
     case kHasVoice:
       return banks_.has_voice(index.row(), index.column());
     default:

@@ -1,5 +1,6 @@
 #include "app/ui/widgets/number_field_box.h"
 
+#include "app/ui/widgets/file_text.h"
 #include "app/ui/widgets/step_bar.h"
 #include "app/ui/widgets/theme.h"
 
@@ -81,7 +82,7 @@ void NumberFieldBox::step_to(int value) {
 
 void NumberFieldBox::show_field() {
   if (entering_) return;
-  text_->setText(QString::fromStdString(field_.text()));
+  text_->setText(file_text(field_.text()));
   const QSignalBlocker quiet(bar_);
   bar_->setValue(field_.value());
 }

@@ -1,5 +1,6 @@
 #include "app/ui/widgets/qt_dialogs.h"
 
+#include "app/ui/widgets/file_text.h"
 #include "app/ui/widgets/theme.h"
 
 #include <QApplication>
@@ -15,26 +16,27 @@ namespace lunavox {
 namespace {
 
 constexpr int kIconSize = 36;
+constexpr QColor kCriticalColour{0xf0, 0x5a, 0x4a};
 
 QString shown(const std::string& text) {
-  QString lines = QString::fromStdString(text);
+  QString lines = file_text(text);
   return lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
-/// A mark in the window's own style, where the toolkit would show its stock picture.
-QPixmap mark(const QColor& colour, QChar sign) {
+/// The critical icon in the window's own style, where the toolkit would show its stock picture.
+QPixmap critical_mark() {
   const int size = theme::scaled(kIconSize);
   QPixmap pixmap(QSize(size, size) * 2);
   pixmap.setDevicePixelRatio(2);
   pixmap.fill(Qt::transparent);
   QPainter painter(&pixmap);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(colour, 2));
+  painter.setPen(QPen(kCriticalColour, 2));
   painter.drawEllipse(QRectF(2, 2, size - 4, size - 4));
   QFont font = theme::caption_font(8);
   font.setBold(true);
   painter.setFont(font);
-  painter.drawText(QRect(0, 0, size, size), Qt::AlignCenter, sign);
+  painter.drawText(QRect(0, 0, size, size), Qt::AlignCenter, QStringLiteral("!"));
   return pixmap;
 }
 
@@ -81,8 +83,7 @@ Answer QtDialogs::message(const Message& message) {
   box.setTextFormat(Qt::PlainText);
   box.setText(shown(message.text));
   const bool asks = message.buttons == Buttons::kYesNoCancel;
-  if (message.icon == Icon::kCritical) box.setIconPixmap(mark({0xf0, 0x5a, 0x4a}, u'!'));
-  if (asks) box.setIconPixmap(mark(theme::kAccent, u'?'));
+  if (message.icon == Icon::kCritical) box.setIconPixmap(critical_mark());
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
                               : QMessageBox::StandardButtons(QMessageBox::Ok));
   box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
@@ -102,7 +103,7 @@ std::string QtDialogs::input(const Question& question) {
   box.setObjectName(QStringLiteral("input"));
   box.setWindowTitle(QString::fromStdString(question.title));
   box.setLabelText(QString::fromStdString(question.prompt));
-  box.setTextValue(QString::fromStdString(question.default_text));
+  box.setTextValue(file_text(question.default_text));
   if (auto* text = box.findChild<QLineEdit*>()) text->selectAll();
   return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }

@@ -73,6 +73,22 @@ TEST(QtDialogs, QuestionsAreAnsweredByTheirButtons) {
   }
 }
 
+TEST(QtDialogs, OnlyACriticalMessageHasAnIcon) {
+  QtDialogs dialogs;
+  const auto has_icon = [&](const Message& message) {
+    bool icon = false;
+    answer_box<QMessageBox>([&icon](QMessageBox& box) {
+      icon = box.icon() != QMessageBox::NoIcon || !box.iconPixmap().isNull();
+      box.close();
+    });
+    dialogs.message(message);
+    return icon;
+  };
+  EXPECT_TRUE(has_icon({"Invalid value (1-6)", "", Icon::kCritical, Buttons::kOk, {}}));
+  EXPECT_FALSE(has_icon({"Lunavox 2.1", "About", Icon::kNone, Buttons::kOk, {}}));
+  EXPECT_FALSE(has_icon({"Save?", "Quit", Icon::kNone, Buttons::kYesNoCancel, {}}));
+}
+
 TEST(QtDialogs, AMessageStandsBeforeTheDialogThatAsksAndGivesItTheKeysBack) {
   QWidget window;
   window.show();
