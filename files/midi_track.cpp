@@ -43,7 +43,7 @@ const std::string& MidiTrackText::compose(int track) {
   track_ = track;
   channel_ = song_.channel.at(track);
   active_curve_ = has_active_curve();
-  last_event_line_ = 0;
+  note_deltas_.begin_track();
   sounding_.fill(kSilent);
   tempo();
   voice();
@@ -98,7 +98,7 @@ void MidiTrackText::lines() {
 }
 
 void MidiTrackText::line(int row) {
-  delta_written_ = false;
+  note_deltas_.begin_line();
   first_controller_ = true;
   controllers(row);
   notes(row);
@@ -169,13 +169,8 @@ void MidiTrackText::end_sounding_notes() {
 
 std::string MidiTrackText::note_delta(int row) {
   // A line's controllers come first and advance the time, so a note has none of its own to add.
-  // The other rule serves lines that begin with a note; no line does since every track without
-  // curves writes its volume, but the files would be wrong without it if one did.
-  if (active_curve_ || volume_written_ || delta_written_) return std::string(kNoDelta);
-  delta_written_ = true;
-  const int lines = row - last_event_line_;
-  last_event_line_ = row;
-  return reverse(computed_delta(lines));
+  if (active_curve_ || volume_written_) return std::string(kNoDelta);
+  return reverse(note_deltas_.next(row));
 }
 
 bool MidiTrackText::has_active_curve() const {

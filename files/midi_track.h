@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/note_deltas.h"
 #include "grid/song.h"
 
 #include <array>
@@ -46,12 +47,11 @@ class MidiTrackText {
   int track_ = 0;
   int channel_ = 0;
   bool active_curve_ = false;
-  int last_event_line_ = 0;
+  NoteDeltas note_deltas_;
   /// The note numbers sounding in the note columns 1..8, -1 for none.
   std::array<std::int32_t, kNoteSlots> sounding_{};
 
   // Of the line that is being composed.
-  bool delta_written_ = false;
   bool first_controller_ = true;
 };
 

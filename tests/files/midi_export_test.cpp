@@ -118,6 +118,15 @@ TEST(MidiExport, ActiveCurvesAreWrittenOnEveryLineInOrder) {
                                 "00 99 24 64 01 99 24 00 00 FF 2F 00")));
 }
 
+TEST(MidiExport, ValuesBeyondADataByteAreWrittenAsTheyCome) {
+  SongBench bench("2");
+  set_active(bench.song, 1, kVolume, true);
+  bench.song.values.at(1, kVolume, 1) = 200;
+  EXPECT_THAT(midi_file_bytes(bench.song), ::testing::EndsWith(bytes("01 B9 07 C8 00 FF 2F 00")));
+  bench.song.values.at(1, kVolume, 1) = 300;  // 12C: the first of an odd number of digits is lost
+  EXPECT_THAT(midi_file_bytes(bench.song), ::testing::EndsWith(bytes("01 B9 07 2C 00 FF 2F 00")));
+}
+
 TEST(MidiExport, AnInactiveInstrumentYieldsOnlyTheSetUp) {
   SongBench bench("64");
   set_active(bench.song, 1, kInstrument, false);
