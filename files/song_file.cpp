@@ -129,7 +129,6 @@ void SongFile::read_song(FieldReader& fields, double version, SongStores& old) {
   const int track_count = fields.short_integer();
   song_.tracks.set_rows(3);
   add_missing_tracks(track_count);
-  set_track_columns(song_, song_.track_count);
   SongReader reader(song_, fields, version, old);
   read_groups(reader);
   song_.tracks.set_column(1);

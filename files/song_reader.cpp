@@ -4,6 +4,7 @@
 #include "grid/runtime_numbers.h"
 #include "midi/xg_effects.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace lunavox {
@@ -28,10 +29,17 @@ int item_or_none(int index, XgList list) {
   return index >= 0 && index < static_cast<int>(xg_names(list).size()) ? index : kNoItem;
 }
 
-std::int16_t old_value(int effect, std::int16_t in_file) {
-  if (effect == kVariation) return kOldVariation;
-  if (effect == kAttack || effect == kRelease) return kOldAttackAndRelease;
-  return in_file;
+/// Reads a value of an old file, which need not even be a number where it has no meaning any more.
+std::int16_t old_value(int effect, FieldReader& fields) {
+  if (effect <= kChorus) return fields.short_integer();
+  fields.text();
+  return effect == kVariation ? kOldVariation : kOldAttackAndRelease;
+}
+
+/// A text without its outer spaces, which a quoted field keeps.
+std::string_view trimmed(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 /// Puts an empty store of some rows in a store's place.
@@ -94,7 +102,7 @@ void SongReader::write_setting(int column, int effect, std::string_view text) {
   song_.effects.set_text(effect, column, text);
   if (setting_of_column(column) != Setting::kActive) return;
   const int track = column / kSettingsPerTrack + 1;
-  song_.active.at(track)[static_cast<std::size_t>(effect)] = text == "yes";
+  song_.active.at(track)[static_cast<std::size_t>(effect)] = trimmed(text) == "yes";
 }
 
 void SongReader::read_used_columns() {
@@ -148,7 +156,7 @@ void SongReader::read_old_curves() {
   for (int t = 1; t <= song_.track_count; ++t) {
     for (int e = kFirstEffect; e <= kRelease; ++e) {
       for (int row = 1; row <= song_.last_row(); ++row) {
-        song_.values.at(t, e, row) = old_value(e, fields_.short_integer());
+        song_.values.at(t, e, row) = old_value(e, fields_);
         const bool key = fields_.flag();
         song_.key_attributes.at(t, e, row) = key && row == 1 ? 1 : 0;
       }

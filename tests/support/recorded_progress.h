@@ -2,6 +2,7 @@
 
 #include "grid/progress.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,10 +24,16 @@ class RecordedProgress : public ProgressBox {
     visible = true;
   }
   void set_caption(const std::string& caption) override { shown.back().caption = caption; }
-  void set_value(int value) override { shown.back().last_value = value; }
+  void set_value(int value) override {
+    shown.back().last_value = value;
+    values.push_back(value);
+    if (on_step) on_step();
+  }
   void hide() override { visible = false; }
 
   std::vector<Shown> shown;
+  std::vector<int> values;        ///< all that the bar was set to, in order
+  std::function<void()> on_step;  ///< looks at what is under way
   bool visible = false;
 };
 

@@ -1,67 +1,21 @@
 #include "files/song_file.h"
-
-#include "grid/runtime_error.h"
-#include "tests/support/song_bench.h"
+#include "files/song_writer.h"
+#include "tests/support/song_files.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace lunavox {
 namespace {
 
 using test::append;
+using test::full_song;
 using test::joined;
 using test::Lines;
-using test::repeated;
 using test::SongBench;
-using test::TempFolder;
+using test::two_line_song;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
-// The "Active", "Start value" and "Show" columns of a new track.
-const Lines kActive = {"yes", "no", "no", "no", "no", "no", "no", "no", "no", "no", "no"};
-const Lines kStartValues = {"127", "64", "1", "64", "40", "1", "1", "64", "64", "64"};
-const Lines kShow = {"no", "yes", "no", "no", "no", "no", "no", "no", "no", "no", "no"};
-
-void append_settings(Lines& lines, const std::string& voice) {
-  append(lines, kActive);
-  append(lines, {voice});
-  append(lines, kStartValues);
-  append(lines, kShow);
-}
-
-/// The curves of a new track of two lines: the key on the first line, then a line that follows.
-void append_flat_curves(Lines& lines) {
-  for (const char* value :
-       {" 0 ", " 127 ", " 64 ", " 1 ", " 64 ", " 40 ", " 1 ", " 1 ", " 1 ", " 64 ", " 64 "}) {
-    append(lines, {value, "-1 ", value, " 0 "});
-  }
-}
-
-/// A new song of two lines, as it is saved.
-Lines two_line_song() {
-  Lines lines = {"2.0", " 1 ", " 3 ", "1", "120", "2", "4", " 0 ", " 0 "};
-  append_settings(lines, "standard 1");
-  append(lines, {" 0 ", " 9 "});
-  append_flat_curves(lines);
-  append(lines, {" 2 ", " 0 ", " 0 ", " 0 "});
-  return lines;
-}
-
-/// A song of two lines and two tracks with notes, bookmarks, banks and XG effects.
-Lines full_song() {
-  Lines lines = {"2.0", " 2 ", " 3 ", "0", "96", "2", "3", " 2 ", "verse", " 1 ", "é", " 2 "};
-  append(lines, {" 0 ", " 18 "});
-  append_settings(lines, "room");
-  append_settings(lines, "MelloGrP");
-  append(lines, {" 2 ", " 1 "});
-  append(lines, {"642499", "stop", "", "7F2699", "A3C90", ""});
-  append(lines, {" 9 ", " 0 "});
-  append_flat_curves(lines);
-  append_flat_curves(lines);
-  append(lines, {" 2 ", " 3 ", " 8 ", "-1 ", " 22 "});
-  return lines;
-}
+using SongReading = test::SongFiles;
 
 /// A file of version 1.1 with one track of two lines: no bank, ten curves, no XG lists.
 Lines old_song(const std::string& version) {
@@ -76,63 +30,14 @@ Lines old_song(const std::string& version) {
   return lines;
 }
 
-class SongFile : public ::testing::Test {
- protected:
-  void open(const Lines& lines) { open_bytes(joined(lines)); }
-  void open_bytes(const std::string& bytes) {
-    bench.file.current_name = folder.write("song.lvx", bytes);
-    bench.file.procopen();
-  }
-  RuntimeError::Number error_of_opening(const Lines& lines) {
-    try {
-      open(lines);
-    } catch (const RuntimeError& error) {
-      return error.number();
-    }
-    ADD_FAILURE() << "no error";
-    return RuntimeError::kFileNotFound;
-  }
-  std::string saved() {
-    bench.file.current_name = folder.file("saved.lvx");
-    bench.file.procsave();
-    return folder.read("saved.lvx");
-  }
-
-  TempFolder folder;
-  SongBench bench{"2"};
-};
-
-TEST_F(SongFile, ANewSongIsSavedByteForByteAsWrittenByHand) {
-  EXPECT_EQ(saved(), joined(two_line_song()));
-}
-
-TEST_F(SongFile, ASongWithNoBookmarksWritesZero) {
-  const std::string bytes = saved();
-  EXPECT_EQ(bytes.substr(0, 37), "2.0\r\n 1 \r\n 3 \r\n1\r\n120\r\n2\r\n4\r\n 0 \r\n 0 ");
-}
-
-TEST_F(SongFile, ASongWrittenReadAndWrittenAgainIsTheSameFile) {
-  open(full_song());
-  EXPECT_EQ(saved(), joined(full_song()));
-}
-
-TEST_F(SongFile, SavingShowsItsProgressAndClearsModified) {
-  bench.flags.modified = true;
-  saved();
-  EXPECT_THAT(bench.progress.shown, ElementsAre(test::RecordedProgress::Shown{"saving...", 8, 7}));
-  EXPECT_FALSE(bench.progress.visible);
-  EXPECT_TRUE(bench.song.tracks.redraw());
-  EXPECT_FALSE(bench.flags.modified);
-}
-
-TEST_F(SongFile, AnEmptyNoteColumnContributesNoLine) {
+TEST_F(SongReading, AnEmptyNoteColumnContributesNoLine) {
   open(full_song());
   EXPECT_EQ(bench.song.used_columns.at(1), 2);
   EXPECT_EQ(bench.song.used_columns.at(2), 1);
   EXPECT_EQ(bench.song.notes.at(1, 3, 1), "");
 }
 
-TEST_F(SongFile, OpeningAddsTheMissingTracks) {
+TEST_F(SongReading, OpeningAddsTheMissingTracks) {
   open(full_song());
   EXPECT_EQ(bench.song.track_count, 2);
   EXPECT_EQ(bench.song.tracks.columns(), 19);
@@ -144,7 +49,7 @@ TEST_F(SongFile, OpeningAddsTheMissingTracks) {
   EXPECT_EQ(bench.song.effects.text(0, 4), "Active");
 }
 
-TEST_F(SongFile, OpeningTakesFieldsBanksChannelsAndLists) {
+TEST_F(SongReading, OpeningTakesFieldsBanksChannelsAndLists) {
   open(full_song());
   EXPECT_EQ(bench.song.step.text(), "0");
   EXPECT_EQ(bench.song.bpm.text(), "96");
@@ -163,7 +68,7 @@ TEST_F(SongFile, OpeningTakesFieldsBanksChannelsAndLists) {
   EXPECT_FALSE(bench.song.active.at(2)[2]);
 }
 
-TEST_F(SongFile, OpeningShowsTheNotesInTheirVelocitysColour) {
+TEST_F(SongReading, OpeningShowsTheNotesInTheirVelocitysColour) {
   open(full_song());
   const CellGrid& tracks = bench.song.tracks;
   EXPECT_EQ(tracks.text(1, 1), "C  3");
@@ -174,7 +79,7 @@ TEST_F(SongFile, OpeningShowsTheNotesInTheirVelocitysColour) {
   EXPECT_EQ(tracks.text(1, 10), "A  16") << "a soft note reads as its entry's third and fourth";
 }
 
-TEST_F(SongFile, OpeningClearsTheCellsThatHoldNoEntry) {
+TEST_F(SongReading, OpeningClearsTheCellsThatHoldNoEntry) {
   bench.song.write_entry(1, 5, 1, "642499");
   bench.song.show_entry(1, 5, 1);
   open(two_line_song());
@@ -182,7 +87,7 @@ TEST_F(SongFile, OpeningClearsTheCellsThatHoldNoEntry) {
   EXPECT_EQ(bench.song.notes.at(1, 5, 1), "");
 }
 
-TEST_F(SongFile, OpeningFillsTheEffectColumns) {
+TEST_F(SongReading, OpeningFillsTheEffectColumns) {
   Lines lines = two_line_song();
   lines[48] = " 100 ";  // Volume on the first line
   open(lines);
@@ -194,7 +99,7 @@ TEST_F(SongFile, OpeningFillsTheEffectColumns) {
   EXPECT_EQ(tracks.cell(2, 9).text_colour, kBlack);
 }
 
-TEST_F(SongFile, OpeningNumbersTheLinesAndMarksTheBeats) {
+TEST_F(SongReading, OpeningNumbersTheLinesAndMarksTheBeats) {
   SongBench longer("64");
   longer.file.current_name = folder.file("long.lvx");
   longer.song.number.put("3");
@@ -208,7 +113,7 @@ TEST_F(SongFile, OpeningNumbersTheLinesAndMarksTheBeats) {
   EXPECT_EQ(bench.length.timemin.get(), " 0:11");
 }
 
-TEST_F(SongFile, OpeningEndsWithTheVoicesSentAndTheCursorHome) {
+TEST_F(SongReading, OpeningEndsWithTheVoicesSentAndTheCursorHome) {
   bench.flags.modified = true;
   bench.song.tracks.set_cursor(2, 4);
   bool loading = false;
@@ -220,7 +125,7 @@ TEST_F(SongFile, OpeningEndsWithTheVoicesSentAndTheCursorHome) {
   EXPECT_EQ(bench.song.tracks.cursor(), (CellPosition{1, 1}));
 }
 
-TEST_F(SongFile, OpeningShowsItsProgress) {
+TEST_F(SongReading, OpeningShowsItsProgress) {
   open(full_song());
   EXPECT_THAT(bench.progress.shown,
               ElementsAre(test::RecordedProgress::Shown{"adding instrument track...", 2, 2},
@@ -232,13 +137,60 @@ TEST_F(SongFile, OpeningShowsItsProgress) {
   EXPECT_TRUE(bench.song.tracks.redraw());
 }
 
-TEST_F(SongFile, OpeningDoesNotResetTheSongFirst) {
+TEST_F(SongReading, TheBarTakesItsStepsGroupByGroup) {
+  bench.progress.values.clear();
+  open(full_song());
+  // Track 2 is added; opening itself; the lines are numbered; both curves are shown.
+  EXPECT_THAT(bench.progress.values, ElementsAre(2, 2, 3, 5, 7, 2, 1, 2));
+}
+
+TEST_F(SongReading, TheLoadingFlagStandsAndTheGridDoesNotRedrawFromTheFirstTrackToTheLastCurve) {
+  bench.progress.on_step = [this] {
+    EXPECT_TRUE(bench.flags.song_loading);
+    EXPECT_TRUE(bench.progress.visible);
+    EXPECT_FALSE(bench.song.tracks.redraw());
+  };
+  open(full_song());
+  EXPECT_FALSE(bench.flags.song_loading);
+}
+
+TEST_F(SongReading, MissingTracksAreAddedToAGridOfThreeRows) {
+  SongBench longer("64");
+  std::vector<int> rows;
+  longer.progress.on_step = [&] { rows.push_back(longer.song.tracks.rows()); };
+  longer.file.current_name = folder.write("song.lvx", joined(full_song()));
+  longer.file.procopen();
+  EXPECT_EQ(rows.at(0), 3);
+}
+
+TEST_F(SongReading, FilesOfBothExtensionsAreReadAlike) {
+  bench.file.current_name = folder.write("song.lvo", joined(full_song()));
+  EXPECT_TRUE(bench.file.procopen());
+  EXPECT_EQ(saved(), joined(full_song()));
+}
+
+TEST_F(SongReading, ACurveIsActiveExactlyWhereItsTrimmedTextIsYes) {
+  Lines lines = two_line_song();
+  // Instrument to Brightness of the first "Active" column.
+  lines[9] = "  yes  ";
+  lines[10] = "\" yes \"";
+  lines[11] = "Yes";
+  lines[12] = "yes!";
+  open(lines);
+  EXPECT_TRUE(bench.song.active.at(1)[kInstrument]);
+  EXPECT_TRUE(bench.song.active.at(1)[kVolume]);
+  EXPECT_FALSE(bench.song.active.at(1)[kPan]);
+  EXPECT_FALSE(bench.song.active.at(1)[kModulation]);
+  EXPECT_EQ(bench.song.effects.text(kPan, 1), "Yes") << "the cell shows what the file says";
+}
+
+TEST_F(SongReading, OpeningDoesNotResetTheSongFirst) {
   open(full_song());
   open(full_song());
   EXPECT_EQ(bench.song.bookmarks.get().size(), 4U) << "the file's bookmarks join the song's";
 }
 
-TEST_F(SongFile, AFileWithFewerTracksIsReadForAllTracksOfTheSong) {
+TEST_F(SongReading, AFileWithFewerTracksIsReadForAllTracksOfTheSong) {
   open(full_song());
   const Song before = bench.song;
   // The second track's bank is taken from the first line of the settings, and so on to the end.
@@ -247,20 +199,23 @@ TEST_F(SongFile, AFileWithFewerTracksIsReadForAllTracksOfTheSong) {
   EXPECT_EQ(bench.song.bookmarks, before.bookmarks);
 }
 
-TEST_F(SongFile, AVersionAboveTwoIsRefused) {
+TEST_F(SongReading, AVersionAboveTwoIsRefused) {
+  const std::string before = song_text(bench.song);
+  bench.song.tracks.set_cursor(2, 3);
   bench.flags.modified = true;
   open({"2.5", " 3 "});
   EXPECT_THAT(bench.dialogs.messages,
               ElementsAre(Message{"This file has been created with Lunavox 0 Please download a "
                                   "more recent version of Lunavox at https://lunavox.example/",
                                   ""}));
-  EXPECT_EQ(bench.song.track_count, 1);
+  EXPECT_EQ(song_text(bench.song), before);
+  EXPECT_EQ(bench.song.tracks.cursor(), (CellPosition{1, 1}));
   EXPECT_FALSE(bench.flags.modified);
   EXPECT_EQ(bench.starteffects, 0);
   EXPECT_EQ(bench.file.current_name.get(), folder.file("song.lvx"));
 }
 
-TEST_F(SongFile, TheRefusalShowsTheLoopIndexOfTheSongRoutines) {
+TEST_F(SongReading, TheRefusalShowsTheLoopIndexOfTheSongRoutines) {
   open(full_song());
   open({"2.01"});
   EXPECT_EQ(bench.dialogs.messages.at(0).text,
@@ -268,7 +223,14 @@ TEST_F(SongFile, TheRefusalShowsTheLoopIndexOfTheSongRoutines) {
             "Lunavox at https://lunavox.example/");
 }
 
-TEST_F(SongFile, AVersionBelowOnePointOneIsRefused) {
+TEST_F(SongReading, TheLoopIndexStandsPastTheLastTrackAfterASaveToo) {
+  saved();
+  open({"2.01"});
+  EXPECT_THAT(bench.dialogs.messages.at(0).text,
+              ::testing::StartsWith("This file has been created with Lunavox 2 Please"));
+}
+
+TEST_F(SongReading, AVersionBelowOnePointOneIsRefused) {
   const Message refusal = {"Sorry incompatibility with Lunavox 1.0 alpha files !", ""};
   bench.song.tracks.set_cursor(2, 3);
   bench.flags.modified = true;
@@ -279,8 +241,12 @@ TEST_F(SongFile, AVersionBelowOnePointOneIsRefused) {
   EXPECT_THAT(bench.dialogs.messages, ElementsAre(refusal, refusal));
 }
 
-TEST_F(SongFile, VersionOnePointOneIsReadByTheOldRules) {
-  open(old_song("1.1"));
+class OldSong : public SongReading, public ::testing::WithParamInterface<const char*> {};
+
+INSTANTIATE_TEST_SUITE_P(Versions, OldSong, ::testing::Values("1.1", "1.15"));
+
+TEST_P(OldSong, IsReadByTheOldRules) {
+  open(old_song(GetParam()));
   const Song& song = bench.song;
   EXPECT_EQ(song.notes.at(1, 1, 1), "642499");
   EXPECT_EQ(song.notes.at(1, 1, 2), "stop");
@@ -299,7 +265,19 @@ TEST_F(SongFile, VersionOnePointOneIsReadByTheOldRules) {
   EXPECT_EQ(song.key_attributes.at(1, 2, 2), 0) << "old files mark keys on the first line only";
 }
 
-TEST_F(SongFile, OldFilesHaveTheFirstXgEffectsAndNoBanks) {
+TEST_F(SongReading, WhatOldFilesSayOfVariationAttackAndReleaseIsNotLookedAt) {
+  Lines lines = old_song("1.1");
+  const std::size_t curves = lines.size() - 41;
+  for (const std::size_t kind : {7U, 8U, 9U}) lines[curves + 4 * kind] = "99999";
+  open(lines);
+  EXPECT_EQ(bench.song.values.at(1, kVariation, 1), 1);
+  EXPECT_EQ(bench.song.values.at(1, kAttack, 1), 40);
+  EXPECT_EQ(bench.song.values.at(1, kRelease, 1), 40);
+  lines[curves + 4 * 6] = "99999";
+  EXPECT_EQ(error_of_opening(lines), RuntimeError::kOverflow) << "Chorus is";
+}
+
+TEST_F(SongReading, OldFilesHaveTheFirstXgEffectsAndNoBanks) {
   bench.song.reverb = 4;
   bench.song.chorus = 4;
   bench.song.variation = 4;
@@ -311,7 +289,7 @@ TEST_F(SongFile, OldFilesHaveTheFirstXgEffectsAndNoBanks) {
   EXPECT_EQ(bench.song.bank.at(1), 0);
 }
 
-TEST_F(SongFile, VersionsFromOnePointTwoLackTheBanksOnly) {
+TEST_F(SongReading, VersionsFromOnePointTwoLackTheBanksOnly) {
   for (const char* version : {"1.2", "1.9"}) {
     Lines lines = two_line_song();
     lines[0] = version;
@@ -323,7 +301,7 @@ TEST_F(SongFile, VersionsFromOnePointTwoLackTheBanksOnly) {
   }
 }
 
-TEST_F(SongFile, OldFilesAreUpgradedBySaving) {
+TEST_F(SongReading, OldFilesAreUpgradedBySaving) {
   open(old_song("1.1"));
   const std::string bytes = saved();
   EXPECT_EQ(bytes.substr(0, 5), "2.0\r\n");
@@ -334,7 +312,7 @@ TEST_F(SongFile, OldFilesAreUpgradedBySaving) {
   EXPECT_EQ(again.song.notes, bench.song.notes);
 }
 
-TEST_F(SongFile, AnIndexOutsideAnXgListSelectsNothing) {
+TEST_F(SongReading, AnIndexOutsideAnXgListSelectsNothing) {
   Lines lines = two_line_song();
   lines[lines.size() - 3] = "11";
   lines[lines.size() - 2] = "-5";
@@ -345,7 +323,7 @@ TEST_F(SongFile, AnIndexOutsideAnXgListSelectsNothing) {
   EXPECT_EQ(bench.song.variation.get(), -1);
 }
 
-TEST_F(SongFile, AMissingFileIsNotFound) {
+TEST_F(SongReading, AMissingFileIsNotFound) {
   bench.file.current_name = folder.file("nowhere.lvx");
   try {
     bench.file.procopen();
@@ -356,7 +334,7 @@ TEST_F(SongFile, AMissingFileIsNotFound) {
   }
 }
 
-TEST_F(SongFile, AFaultPutsTheSongBackAsItWas) {
+TEST_F(SongReading, AFaultPutsTheSongBackAsItWas) {
   const std::string before = saved();
   bench.flags.modified = true;
   bench.song.tracks.set_cursor(2, 7);
@@ -374,11 +352,11 @@ TEST_F(SongFile, AFaultPutsTheSongBackAsItWas) {
   EXPECT_EQ(saved(), before);
 }
 
-TEST_F(SongFile, TheEmptyFileEndsTooEarly) {
+TEST_F(SongReading, TheEmptyFileEndsTooEarly) {
   EXPECT_EQ(error_of_opening({}), RuntimeError::kInputPastEndOfFile);
 }
 
-TEST_F(SongFile, MoreThanSixteenTracksBreakTheBound) {
+TEST_F(SongReading, MoreThanSixteenTracksBreakTheBound) {
   Lines lines = two_line_song();
   lines[1] = "17";
   EXPECT_EQ(error_of_opening(lines), RuntimeError::kSubscriptOutOfRange);
@@ -387,7 +365,7 @@ TEST_F(SongFile, MoreThanSixteenTracksBreakTheBound) {
   EXPECT_EQ(bench.song.track_count, 1);
 }
 
-TEST_F(SongFile, ARowCountThatNoSongHasBreaksTheBound) {
+TEST_F(SongReading, ARowCountThatNoSongHasBreaksTheBound) {
   for (const char* rows : {"1", "0", "-5", "3002", "2000000000"}) {
     Lines lines = two_line_song();
     lines[2] = rows;
@@ -398,26 +376,26 @@ TEST_F(SongFile, ARowCountThatNoSongHasBreaksTheBound) {
   EXPECT_EQ(error_of_opening(lines), RuntimeError::kOverflow);
 }
 
-TEST_F(SongFile, NineUsedNoteColumnsBreakTheBound) {
+TEST_F(SongReading, NineUsedNoteColumnsBreakTheBound) {
   Lines lines = two_line_song();
   lines[42] = "9";
   EXPECT_EQ(error_of_opening(lines), RuntimeError::kSubscriptOutOfRange);
 }
 
-TEST_F(SongFile, AShownEffectThatIsNoneBreaksTheBound) {
+TEST_F(SongReading, AShownEffectThatIsNoneBreaksTheBound) {
   Lines lines = two_line_song();
   lines[lines.size() - 4] = "12";
   EXPECT_EQ(error_of_opening(lines), RuntimeError::kSubscriptOutOfRange);
 }
 
-TEST_F(SongFile, NoLinesPerBeatDivideByZero) {
+TEST_F(SongReading, NoLinesPerBeatDivideByZero) {
   Lines lines = two_line_song();
   lines[6] = "none";
   EXPECT_EQ(error_of_opening(lines), RuntimeError::kDivisionByZero);
   EXPECT_EQ(bench.song.number.text(), "4");
 }
 
-TEST_F(SongFile, ACommaInATextShiftsWhatFollows) {
+TEST_F(SongReading, ACommaInATextShiftsWhatFollows) {
   Lines lines = full_song();
   lines[8] = "verse, the second";
   // One field too many: the rest of the file is read a line out of step, up to curves' values that
@@ -425,12 +403,7 @@ TEST_F(SongFile, ACommaInATextShiftsWhatFollows) {
   EXPECT_EQ(error_of_opening(lines), RuntimeError::kSubscriptOutOfRange);
 }
 
-TEST_F(SongFile, TextsAreWrittenExactlyAsHeld) {
-  bench.song.bookmarks = std::vector<Bookmark>{{"verse, \"two\"", 2}};
-  EXPECT_NE(saved().find("\r\n 1 \r\nverse, \"two\"\r\n 2 \r\n"), std::string::npos);
-}
-
-TEST_F(SongFile, OtherLineEndsReadTheSame) {
+TEST_F(SongReading, OtherLineEndsReadTheSame) {
   for (const char* line_end : {"\n", "\r"}) {
     SongBench fresh("2");
     fresh.file.current_name = folder.write("other.lvx", joined(full_song(), line_end));
@@ -441,19 +414,11 @@ TEST_F(SongFile, OtherLineEndsReadTheSame) {
   }
 }
 
-TEST_F(SongFile, WhatFollowsTheLastGroupIsNotRead) {
+TEST_F(SongReading, WhatFollowsTheLastGroupIsNotRead) {
   Lines lines = two_line_song();
   append(lines, {"more", "and more"});
   open(lines);
   EXPECT_EQ(saved(), joined(two_line_song()));
-}
-
-TEST_F(SongFile, AFailedSaveKeepsTheOldFileAndTheModifiedMark) {
-  bench.flags.modified = true;
-  bench.file.current_name = folder.file("no folder/song.lvx");
-  EXPECT_THROW(bench.file.procsave(), RuntimeError);
-  EXPECT_TRUE(bench.flags.modified);
-  EXPECT_FALSE(bench.progress.visible);
 }
 
 }  // namespace
