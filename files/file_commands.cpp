@@ -83,9 +83,6 @@ void FileCommands::clear_song() {
   song.used_columns.fill(0);
   song.shown_effect.fill(kVolume);
   song.bookmarks = std::vector<Bookmark>();
-  song.reverb = 0;
-  song.chorus = 0;
-  song.variation = 0;
 }
 
 void FileCommands::menuopen_click() {

@@ -207,8 +207,12 @@ TEST(Editor, ClosingStopsAndResetsTheInputThenTheOutputAndClosesBoth) {
   bench.start();
   bench.inputs.calls.clear();
   bench.output.calls.clear();
+  std::vector<std::size_t> output_calls_before;
+  bench.inputs.on_call = [&] { output_calls_before.push_back(bench.output.calls.size()); };
   bench.editor.close_ports();
   EXPECT_EQ(bench.inputs.calls, (std::vector<std::string>{"stop", "reset", "close"}));
+  EXPECT_EQ(output_calls_before, (std::vector<std::size_t>{0, 0, 1}))
+      << "the output is reset before the input closes, and closes last";
   using Call = test::RecordingOutput::Call;
   ASSERT_EQ(bench.output.calls.size(), 2U);
   EXPECT_EQ(bench.output.calls[0].kind, Call::kReset);

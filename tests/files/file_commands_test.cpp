@@ -102,13 +102,14 @@ TEST_F(FileMenu, NewResetsTheSong) {
   song.write_entry(2, 8, 16, "643C90");
   song.values.at(2, kPan, 5) = 3;
   song.bank.at(2) = 7;
-  song.shown_effect.at(1) = 5;
+  song.shown_effect.fill(5);
   song.bookmarks = std::vector<Bookmark>{{"verse", 3}};
   song.reverb = 3;
   song.chorus = 4;
   song.variation = 5;
   song.bpm.put("99");
   song.number.put("3");
+  song.step.put("3");
   song.tracks.set_cursor(9, 12);
   bench.flags.modified = true;
   bench.dialogs.answers = {Answer::kNo};
@@ -128,15 +129,15 @@ TEST_F(FileMenu, NewResetsTheSong) {
   EXPECT_EQ(bench.length.timemin.get(), " 0:08");
   EXPECT_EQ(song.tracks.cursor(), (CellPosition{1, 1}));
   EXPECT_THAT(song.bookmarks.get(), IsEmpty());
-  EXPECT_EQ(song.shown_effect.at(1), 2);
-  EXPECT_EQ(song.shown_effect.at(16), 2);
+  for (int track = 0; track <= 16; ++track) EXPECT_EQ(song.shown_effect.at(track), 2) << track;
   EXPECT_EQ(song.notes.at(1, 1, 1), "");
   EXPECT_EQ(song.notes.at(2, 8, 16), "");
   EXPECT_EQ(song.used_columns.at(2), 0);
   EXPECT_EQ(song.bank.at(2), 0);
-  EXPECT_EQ(song.reverb.get(), 0);
-  EXPECT_EQ(song.chorus.get(), 0);
-  EXPECT_EQ(song.variation.get(), 0);
+  EXPECT_EQ(song.reverb.get(), 3) << "what the module has set stays in the lists";
+  EXPECT_EQ(song.chorus.get(), 4);
+  EXPECT_EQ(song.variation.get(), 5);
+  EXPECT_EQ(song.step.text(), "3") << "only length, tempo and lines per beat start afresh";
   EXPECT_EQ(song.values.at(1, kVolume, 64), 127) << "every line continues the start value";
   for (int track = 0; track <= 16; ++track) {
     EXPECT_EQ(song.key_attributes.at(track, 11, 1), 1) << track;

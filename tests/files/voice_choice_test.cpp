@@ -41,6 +41,8 @@ TEST_F(InstrumentDialog, PressingACellPlaysItsVoiceOnChannelSixteen) {
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x0000BFU, 0x2920BFU, 0x00CFU, 0x7E3C9FU));
   voices.instrulist_mouseup();
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x003C9FU));
+  voices.instrulist_mouseup();
+  EXPECT_THAT(output.take_shorts(), IsEmpty()) << "what is released already";
   voices.instrulist_mousedown({1, 0});
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x0000BFU, 0x0020BFU, 0x01CFU, 0x7E3C9FU));
 }
@@ -60,6 +62,11 @@ TEST_F(InstrumentDialog, PressingACellWithoutAVoiceSendsNothing) {
   voices.instrulist_mousedown({0, 2});
   voices.instrulist_mouseup();
   EXPECT_THAT(output.calls, IsEmpty());
+}
+
+TEST_F(InstrumentDialog, AnEmptyCellPlaysTheBasicVoiceOfItsProgram) {
+  voices.instrulist_mousedown({1, 4});
+  EXPECT_THAT(output.take_shorts(), ElementsAre(0x0000BFU, 0x0020BFU, 0x01CFU, 0x7E3C9FU));
 }
 
 TEST_F(InstrumentDialog, NothingSoundsWhilePreviewIsNotTicked) {

@@ -2,6 +2,7 @@
 
 #include "midi/devices.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -19,6 +20,7 @@ class ScriptedInputs : public InputDevices {
   int opened = -1;      ///< the number opened last, -1 for none
   std::string trouble;  ///< what the open device's status tells
   std::vector<std::string> calls;
+  std::function<void()> on_call;  ///< told of each
 
   /// A message arrives at the open device; lost where none is open and started.
   void play(std::uint32_t packed) {
@@ -49,6 +51,7 @@ class ScriptedInputs : public InputDevices {
     void note(const char* call, bool started) {
       owner_.calls.emplace_back(call);
       owner_.started_ = started;
+      if (owner_.on_call) owner_.on_call();
     }
     ScriptedInputs& owner_;
   };

@@ -134,6 +134,74 @@ TEST_F(FilesWindowTest, ASongIsSavedUnderATypedNameAndOpenedAgain) {
   EXPECT_EQ(shown_file(), "tune.lvx");
 }
 
+TEST_F(FilesWindowTest, EachDialogOffersItsKindOfFile) {
+  const auto offers = [this](const char* action, const std::string& filter,
+                             QFileDialog::FileMode mode = QFileDialog::AnyFile) {
+    boxes.next<QFileDialog>([filter, mode](QFileDialog& dialog) {
+      EXPECT_EQ(dialog.nameFilters().join(QStringLiteral("|")).toStdString(), filter);
+      EXPECT_EQ(dialog.fileMode(), mode);
+      dialog.close();
+    });
+    trigger(action);
+  };
+  offers("menuopen", "Lunavox (*.lvo *.lvx)", QFileDialog::ExistingFile);
+  offers("menusaveas", "Lunavox 1.2 (*.lvx)");
+  offers("menuexport", "midi file (*.mid)");
+}
+
+TEST_F(FilesWindowTest, SaveWritesToTheNameThatTheSongHasWithoutADialog) {
+  saved_song(folder.file("tune"));
+  type_name("Open", folder.file("tune.lvx"));
+  trigger("menuopen");
+  bench.editor.song.write_entry(1, 1, 6, "7F2699");
+  bench.editor.flags.modified = true;
+  trigger("menusave");
+  EXPECT_THAT(folder.read("tune.lvx"), HasSubstr("642499\r\n7F2699\r\n"));
+  EXPECT_FALSE(modified());
+}
+
+TEST_F(FilesWindowTest, AnOpenedSongsVoicesAreSent) {
+  bench.editor.song.values.at(1, kInstrument, 1) = 24;
+  saved_song(folder.file("tune"));
+  bench.outputs.calls.clear();
+  type_name("Open", folder.file("tune.lvx"));
+  trigger("menuopen");
+  EXPECT_EQ(bench.outputs.shorts(), (std::vector<std::uint32_t>{0x7F00B9, 0x20B9, 0x18C9, 0x3099}));
+  EXPECT_EQ(bench.find<QLabel>("voicename").text().toStdString(), "electro");
+}
+
+TEST_F(FilesWindowTest, ANewSongShowsItsOwnVoice) {
+  bench.editor.song.values.at(1, kInstrument, 1) = 24;
+  bench.editor.voice_name.refresh();
+  EXPECT_EQ(bench.find<QLabel>("voicename").text().toStdString(), "electro");
+  trigger("menunew");
+  EXPECT_EQ(bench.find<QLabel>("voicename").text().toStdString(), "standard 1");
+}
+
+TEST_F(FilesWindowTest, FileWorkStopsPlaying) {
+  bench.editor.transport.playnotes_mouseup();
+  ASSERT_TRUE(bench.editor.flags.playing);
+  trigger("menunew");
+  EXPECT_FALSE(bench.editor.flags.playing);
+  EXPECT_TRUE(bench.editor.current_loop.is(bench.editor.listen));
+}
+
+TEST_F(FilesWindowTest, QuitClosesThePortsAndEndsTheProgram) {
+  bench.outputs.calls.clear();
+  trigger("menuquit");
+  EXPECT_EQ(bench.shell.ended(), 0);
+  using Call = test::RecordingOutput::Call;
+  ASSERT_EQ(bench.outputs.calls.size(), 2U);
+  EXPECT_EQ(bench.outputs.calls[0].kind, Call::kReset);
+  EXPECT_EQ(bench.outputs.calls[1].kind, Call::kClose);
+}
+
+TEST_F(FilesWindowTest, AskingForTheInputIsWrittenForTheNextStart) {
+  bench.home.write("config/lvconfig.ini", "input=3\r\nboot=1\r\n");
+  trigger("menuask");
+  EXPECT_EQ(bench.home.read("config/lvconfig.ini"), "input=\r\nboot=1\r\n");
+}
+
 TEST_F(FilesWindowTest, NothingIsOverwrittenUnasked) {
   folder.write("tune.lvx", "old");
   folder.write("tune.mid", "old");

@@ -4,6 +4,7 @@
 #include "window_bench.h"
 
 #include <QCheckBox>
+#include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
 
@@ -133,6 +134,30 @@ TEST_F(KeysTest, ThePlayButtonShowsItsPicturesAndStartsAndStops) {
   EXPECT_EQ(picture("playnotes"), "stop2");
   QTest::mouseRelease(&play, Qt::LeftButton);
   EXPECT_EQ(picture("playnotes"), "play1");
+  EXPECT_FALSE(editor.flags.playing);
+}
+
+TEST_F(KeysTest, ThePlayButtonStartsWhereverTheMouseIsReleased) {
+  auto& play = bench.find<QAbstractButton>("playnotes");
+  QTest::mousePress(&play, Qt::LeftButton);
+  QTest::mouseRelease(&play, Qt::LeftButton, {}, {-30, 200});
+  EXPECT_TRUE(editor.flags.playing);
+}
+
+TEST_F(KeysTest, StoppingWithTheButtonShowsBothIdlePicturesAndResetsTheChannels) {
+  QTest::keyClick(&tracks(), Qt::Key_Space);
+  auto& play = bench.find<QAbstractButton>("playnotes");
+  QTest::mouseClick(&play, Qt::LeftButton);
+  bench.outputs.calls.clear();
+  QTest::mouseClick(&play, Qt::LeftButton);
+  EXPECT_EQ(picture("playnotes"), "play1");
+  EXPECT_EQ(picture("recordnotes"), "record1");
+  EXPECT_EQ(bench.outputs.shorts().size(), 120U + 165);
+  EXPECT_TRUE(editor.current_loop.is(editor.listen));
+}
+
+TEST_F(KeysTest, TheControlKeyInADialogStartsNothing) {
+  QTest::keyPress(&bench.find<QDialog>("Form8"), Qt::Key_Control);
   EXPECT_FALSE(editor.flags.playing);
 }
 

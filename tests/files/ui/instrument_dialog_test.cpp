@@ -96,6 +96,13 @@ TEST_F(VoiceDialog, ShowsARowForEachProgramAndAColumnForEachOfItsVoices) {
   EXPECT_EQ(cell_text(127, 0), "Gunshot");
 }
 
+TEST_F(VoiceDialog, AColumnIs1200TwipsWideWhereTheScreenHasRoom) {
+  QCoreApplication::processEvents();
+  for (int column = 0; column < 9; ++column) {
+    EXPECT_EQ(instrulist.columnWidth(column), 80) << column;  // 1200 * 0.06667, rounded
+  }
+}
+
 TEST_F(VoiceDialog, TheFrameOfTheBasicVoicesStandsAboveTheFirstColumnAndXgAboveTheOthers) {
   const auto left = [](const QWidget& widget) { return widget.mapToGlobal(QPoint()).x(); };
   const auto& basic = control<QLabel>(dialog, "Frame1");
@@ -157,6 +164,11 @@ TEST_F(VoiceDialog, ADoubleClickPlaysTwiceAndDoesNotChoose) {
 TEST_F(VoiceDialog, PressingACellWithoutAVoiceSendsNothing) {
   press(0, 5);
   release();
+  EXPECT_THAT(output.calls, IsEmpty());
+}
+
+TEST_F(VoiceDialog, OnlyTheLeftButtonPlays) {
+  QTest::mouseClick(instrulist.viewport(), Qt::RightButton, {}, place_of(0, 4));
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
