@@ -1,6 +1,7 @@
 #include "edit/block_tools.h"
 
 #include "grid/note_text.h"
+#include "tests/support/recording_grid_observer.h"
 #include "tests/support/song_fixture.h"
 
 #include <gmock/gmock.h>
@@ -283,6 +284,21 @@ TEST_F(BlockToolsTest, CursorAndSelectionStayWhereTheUserLeftThem) {
     EXPECT_EQ(song.tracks.cursor(), (CellPosition{9, 6}));
     EXPECT_EQ(song.tracks.selection_end(), (CellPosition{1, 1}));
   }
+}
+
+TEST_F(BlockToolsTest, EachToolRedrawsTheBlockOnce) {
+  for (int row = 2; row <= 16; ++row) write(3, row, "643C99");
+  select_track();
+  const RecordingGridObserver observer(song.tracks);
+  answer("10");
+  tools.velovalue();
+  answer("200");
+  tools.velopercent();
+  answer("1");
+  tools.transproc();
+  EXPECT_THAT(observer.regions, ElementsAre(CellRegion{2, 3, 16, 3}, CellRegion{2, 3, 16, 3},
+                                            CellRegion{2, 3, 16, 3}));
+  EXPECT_TRUE(song.tracks.redraw());
 }
 
 TEST_F(BlockToolsTest, AWholeSongsTrackIsTransposed) {

@@ -1,5 +1,6 @@
 #include "edit/bookmarks.h"
 
+#include "edit/clipboard.h"
 #include "tests/support/song_fixture.h"
 
 #include <gmock/gmock.h>
@@ -32,6 +33,35 @@ TEST_F(BookmarksTest, APressedButtonShowsItsPressedPictureUntilItIsReleased) {
   EXPECT_EQ(pictures.delbook.get(), "delbook2");
   bookmarks.image2_mouseup();
   EXPECT_EQ(pictures.delbook.get(), "delbook1");
+}
+
+/// Dialogs that look at the two buttons while their box stands.
+class WatchfulDialogs : public ScriptedDialogs {
+ public:
+  explicit WatchfulDialogs(const ButtonPictures& pictures) : pictures_(pictures) {}
+  std::string input(const Question& question) override {
+    seen.push_back(pictures_.addbook);
+    return ScriptedDialogs::input(question);
+  }
+  Answer message(const Message& message) override {
+    seen.push_back(pictures_.delbook);
+    return ScriptedDialogs::message(message);
+  }
+  std::vector<std::string> seen;
+
+ private:
+  const ButtonPictures& pictures_;
+};
+
+TEST_F(BookmarksTest, AReleasedButtonShowsItsNormalPictureBeforeAnythingIsAskedOrTold) {
+  WatchfulDialogs watchful(pictures);
+  Bookmarks marks(song, flags, watchful, pictures);
+  watchful.inputs = {"a"};
+  marks.image1_mousedown();
+  marks.image1_mouseup();
+  marks.image2_mousedown();
+  marks.image2_mouseup();
+  EXPECT_THAT(watchful.seen, ElementsAre("addbook1", "delbook1"));
 }
 
 TEST_F(BookmarksTest, ABookmarkIsAddedAtTheCursorsLine) {
@@ -113,6 +143,23 @@ TEST_F(BookmarksTest, ABookmarkPastTheEndGoesToTheLastLineAndKeepsItsOwn) {
   EXPECT_EQ(song.tracks.row(), 8);
   EXPECT_EQ(song.tracks.top_row(), 8);
   EXPECT_EQ(list().front().row, 16);
+}
+
+TEST_F(BookmarksTest, BookmarksKeepTheirLinesWhateverBecomesOfTheLines) {
+  add("verse", 7);
+  add("coda", 16);
+  song.write_entry(1, 2, 7, "643C99");
+  song.show_entry(1, 2, 7);
+  song.tracks.select({5, 1}, {9, 8});
+  Clipboard clipboard(song, flags, dialogs);
+  clipboard.cutproc();
+  song.tracks.set_cursor(1, 1);
+  clipboard.pasteproc();
+  resize(12);
+  resize(32);
+  EXPECT_THAT(list(), ElementsAre(Bookmark{"verse", 7}, Bookmark{"coda", 16}));
+  bookmarks.bookmark_click(1);
+  EXPECT_EQ(song.tracks.row(), 16);
 }
 
 TEST_F(BookmarksTest, ABookmarkBeforeTheFirstLineOfAFileGoesToTheFirst) {

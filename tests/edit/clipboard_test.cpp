@@ -100,6 +100,26 @@ TEST_F(ClipboardTest, ARefusedCopyKeepsTheClipboard) {
   EXPECT_EQ(song.notes.at(1, 1, 2), "643C99");
 }
 
+TEST_F(ClipboardTest, TheNextCopyTakesTheClipboardsPlaceWhateverItsSize) {
+  write(1, 1, 1, "643C99");
+  write(1, 2, 2, "643D99");
+  write(1, 5, 7, "643E99");
+  select(1, 1, 3, 3);
+  clipboard.copyproc();
+  song.tracks.set_cursor(7, 5);
+  clipboard.copyproc();
+  song.tracks.set_cursor(10, 1);
+  clipboard.pasteproc();
+  EXPECT_EQ(song.notes.at(1, 1, 10), "643E99");
+  EXPECT_EQ(song.notes.at(1, 2, 11), "");
+  select(1, 1, 3, 3);
+  clipboard.cutproc();
+  song.tracks.set_cursor(10, 4);
+  clipboard.pasteproc();
+  EXPECT_EQ(song.notes.at(1, 4, 10), "643C99");
+  EXPECT_EQ(song.notes.at(1, 5, 11), "643D99");
+}
+
 TEST_F(ClipboardTest, CuttingEmptiesTextAndEntryAndLeavesTheColour) {
   write(1, 2, 3, "643C99");
   write(1, 3, 4, "stop");
@@ -199,6 +219,16 @@ TEST_F(ClipboardTest, PastingIntoAnEffectColumnIsRefused) {
   EXPECT_THAT(dialogs.messages, ElementsAre(kNoSpace));
 }
 
+TEST_F(ClipboardTest, AWiderBlockIntoAnEffectColumnIsRefusedThoughItWouldEndInANoteColumn) {
+  write(1, 2, 1, "643C99");
+  select(1, 1, 1, 2);
+  clipboard.copyproc();
+  song.tracks.set_cursor(1, 9);
+  clipboard.pasteproc();
+  EXPECT_THAT(dialogs.messages, ElementsAre(kNoSpace));
+  EXPECT_EQ(song.notes.at(2, 1, 1), "");
+}
+
 TEST_F(ClipboardTest, EightColumnsAtTheSecondNoteColumnWouldEndInTheEffectColumn) {
   select(1, 1, 1, 8);
   clipboard.copyproc();
@@ -251,9 +281,13 @@ TEST_F(ClipboardTest, ABlockIsRedrawnOnce) {
   select(1, 1, 16, 3);
   clipboard.copyproc();
   song.tracks.set_cursor(1, 4);
-  RecordingGridObserver observer(song.tracks);
+  const RecordingGridObserver observer(song.tracks);
   clipboard.pasteproc();
   EXPECT_THAT(observer.regions, ElementsAre(CellRegion{1, 4, 16, 4}));
+  select(1, 1, 16, 4);
+  clipboard.cutproc();
+  EXPECT_THAT(observer.regions, ElementsAre(CellRegion{1, 4, 16, 4}, CellRegion{1, 1, 16, 4}));
+  EXPECT_TRUE(song.tracks.redraw());
 }
 
 TEST_F(ClipboardTest, AWholeSongsTrackIsCutAndPasted) {

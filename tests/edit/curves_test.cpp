@@ -152,6 +152,16 @@ TEST_F(CurvesTest, AHiddenCurvesStartValueChangesTheTableButNoTextInTracks) {
   EXPECT_EQ(cursor(), (CellPosition{1, kEffects2}));
 }
 
+TEST_F(CurvesTest, RefreshingMeansTheTrackUnderTheCursorWhateverTheCurrentOneWas) {
+  set_key(2, kPan, 1, 10);
+  song.tracks.set_cursor(1, kEffects2);
+  song.effects.set_cursor(kPan, kStart2);
+  song.current_track = 1;
+  curves.refreshfxs2();
+  EXPECT_THAT(values(1, kPan, 1, 16), Each(64));
+  EXPECT_THAT(values(2, kPan, 1, 16), Each(10));
+}
+
 TEST_F(CurvesTest, AFractionStaysInTheCellAndIsRoundedInTheTable) {
   dialogs.inputs = {"64.5", "63.5"};
   curves.effects_click(kStart2, kVolume);
@@ -173,6 +183,9 @@ TEST_F(CurvesTest, ShowMovesTheOneYesAndRedrawsTheColumn) {
   for (int row = kVolume; row <= kPitch; ++row) {
     EXPECT_EQ(song.effects.text(row, kShow2), row == kPan ? "yes" : "no") << row;
   }
+  curves.effects_click(kShow2, kPitch);
+  curves.effects_click(kShow2, kPan);
+  EXPECT_EQ(song.effects.text(kPitch, kShow2), "no");
   EXPECT_EQ(song.shown_effect.at(2), kPan);
   EXPECT_THAT(texts(kEffects2, 1, 4), ElementsAre("64", "64", "10", "64"));
   EXPECT_EQ(cursor(), (CellPosition{16, kEffects2}));

@@ -45,6 +45,13 @@ TEST(Interpolation, TheSlopeIsFormedBeforeItIsMultiplied) {
   EXPECT_EQ(value_on(segment, 50), 1);
 }
 
+TEST(Interpolation, TheSlopesOwnErrorTipsAHalf) {
+  // 29 / 14 * 7 comes out a little above 14.5, 115 / 14 * 7 a little below 57.5. Multiplied before
+  // it is divided each would be a half, which goes to the even neighbour: 14 and 58.
+  EXPECT_EQ(value_on({1, 15, 0, 29}, 8), 15);
+  EXPECT_EQ(value_on({1, 15, 0, 115}, 8), 57);
+}
+
 TEST(Interpolation, AFallIsRoundedLikeARise) {
   EXPECT_THAT(edited({0, 127, 1, 1, 1, 0}, {0, 1, 0, 0, 0, 1}, 5),
               ElementsAre(0, 127, 95, 64, 32, 0));

@@ -232,6 +232,46 @@ TEST_F(TypingModeTest, TheValueGoesToTheEffectThatTheTrackShows) {
   EXPECT_EQ(song.tracks.text(5, 18), "40");
 }
 
+TEST_F(TypingModeTest, TheValueGoesToTheTrackUnderTheCursorWhateverTheCurrentOneWas) {
+  song.tracks.set_cursor(5, 18);
+  song.current_track = 1;
+  overtype("7\r");
+  EXPECT_EQ(song.values.at(2, kVolume, 5), 7);
+  EXPECT_EQ(song.key_attributes.at(2, kVolume, 5), 1);
+  EXPECT_EQ(song.key_attributes.at(1, kVolume, 5), 0);
+}
+
+/// Dialogs that look at a cell while their box stands.
+class WatchfulDialogs : public ScriptedDialogs {
+ public:
+  explicit WatchfulDialogs(const Song& song) : song_(song) {}
+  Answer message(const Message& message) override {
+    seen = song_.tracks.text(song_.tracks.row(), song_.tracks.column());
+    return ScriptedDialogs::message(message);
+  }
+  std::string seen;
+
+ private:
+  const Song& song_;
+};
+
+TEST_F(TypingModeTest, TheCellHasItsPreviousTextBackWhileTheRefusalStands) {
+  WatchfulDialogs watchful(song);
+  typing = std::make_unique<TypingMode>(song, flags, watchful, curves);
+  song.tracks.set_cursor(5, 9);
+  overtype("200\r");
+  EXPECT_EQ(watchful.seen, "127");
+  EXPECT_THAT(watchful.messages, ElementsAre(error_box("Invalid value (0-127)", "error")));
+}
+
+TEST_F(TypingModeTest, ASettingClickedOverAnUntouchedCellCommitsNothing) {
+  song.tracks.set_cursor(5, 9);
+  curves.effects_click(3, kInstrument);
+  EXPECT_EQ(cursor(), (CellPosition{5, 9}));
+  EXPECT_EQ(typing->editmode(), EditMode::kEntered);
+  EXPECT_FALSE(flags.modified);
+}
+
 TEST_F(TypingModeTest, ProgramWalksThroughEffectCellsEndInTheLastOneEntered) {
   song.tracks.set_cursor(1, 9);
   curves.showeffect();
