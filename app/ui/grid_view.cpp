@@ -74,6 +74,10 @@ GridView::~GridView() {
   grid_.remove_observer(this);
 }
 
+std::array<QWidget*, 3> GridView::fixed_parts() const {
+  return {columns_header_->viewport(), rows_header_->viewport(), corner_};
+}
+
 void GridView::set_heights(const Heights& heights) {
   heights_ = heights;
   painter_.set_size(heights.row, heights.text);

@@ -5,6 +5,7 @@
 
 #include <QTableView>
 #include <QTimer>
+#include <array>
 
 namespace lunavox {
 
@@ -78,6 +79,8 @@ class GridView : public QTableView, private CellGridObserver {
   /// Moves the cursor by a key; false for a key that does not move it.
   bool navigate(const QKeyEvent& event);
   void bring_into_view(CellPosition position);
+  /// What shows the fixed row and column and the cell where they meet.
+  std::array<QWidget*, 3> fixed_parts() const;
 
  private:
   void cells_changed(const CellRegion& region) override;

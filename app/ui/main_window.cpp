@@ -48,8 +48,7 @@ MainWindow::MainWindow(const WindowModel& model, const WindowCommands& commands)
       commands_(commands),
       grids_(new SongGrids({model.song, model.flags, model.screen, model.options.curs},
                            model.keyboard, commands.effects_click)),
-      status_(new StatusLine),
-      edit_menu_(&build_menus(*menuBar(), commands.menu, model.outputdev.items, model.recent)) {
+      status_(new StatusLine) {
   setObjectName(QStringLiteral("Form1"));
   setWindowTitle(QStringLiteral("Lunavox 2.1"));
   setAcceptDrops(true);
@@ -64,7 +63,8 @@ MainWindow::MainWindow(const WindowModel& model, const WindowCommands& commands)
   column->addWidget(status_);
   setCentralWidget(centre);
 
-  grids_->tracks().on_popup([this](QPoint at) { edit_menu_->popup(at); });
+  grids_->tracks().on_popup(
+      build_menus(*menuBar(), commands.menu, model.outputdev.items, model.recent));
   const auto show_octave = [this] {
     status_->show_text(StatusLine::kOctave,
                        QString::fromStdString(octave_text(model_.keyboard.octaveshift())));

@@ -92,7 +92,6 @@ class MainWindow : public QMainWindow, private CellGridObserver {
   WindowCommands commands_;
   SongGrids* grids_;
   StatusLine* status_;
-  QMenu* edit_menu_;
 };
 
 }  // namespace lunavox

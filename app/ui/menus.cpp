@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPoint>
 
 namespace lunavox {
 namespace {
@@ -28,26 +29,56 @@ QAction& add(QMenu& menu, const char* name, const char* caption, std::function<v
   return *action;
 }
 
-QMenu& build_edit_menu(QMenuBar& bar, const MenuCommands& commands) {
-  QMenu& edit = add_menu(bar, "menuedit", "&Edit");
-  add(edit, "menucut", "Cut", commands.menucut);
-  add(edit, "menucopy", "Copy", commands.menucopy);
-  QAction& paste = add(edit, "menupaste", "Paste", commands.menupaste);
-  QMenu& trait = *edit.addMenu(QStringLiteral("Selected notes"));
-  trait.setObjectName(QStringLiteral("trait"));
-  const std::vector<QAction*> tools = {
-      &add(trait, "menuvelval", "Velocity: fixed value", commands.menuvelval),
-      &add(trait, "menuvelper", "Velocity: percent", commands.menuvelper),
-      &add(trait, "menutrans", "Transpose", commands.menutrans),
-  };
-  QObject::connect(&edit, &QMenu::aboutToShow, &edit,
-                   [&paste, tools, can_paste = commands.can_paste,
-                    can_change_notes = commands.can_change_notes] {
-                     paste.setEnabled(can_paste());
-                     for (QAction* tool : tools) tool->setEnabled(can_change_notes());
-                   });
-  return edit;
-}
+/// The menu `menuedit`. In the menu bar the tools for the selected notes stand in its submenu
+/// `trait`; over the note grid, where the hand is on the mouse, behind a separator of its own.
+class EditMenu : public QMenu {
+ public:
+  EditMenu(const MenuCommands& commands, QWidget* parent) : QMenu(parent) {
+    setObjectName(QStringLiteral("menuedit"));
+    setTitle(QStringLiteral("&Edit"));
+    add(*this, "menucut", "Cut", commands.menucut);
+    add(*this, "menucopy", "Copy", commands.menucopy);
+    QAction& paste = add(*this, "menupaste", "Paste", commands.menupaste);
+    separator_ = addSeparator();
+    trait_ = addMenu(QStringLiteral("Selected notes"));
+    trait_->setObjectName(QStringLiteral("trait"));
+    add(*trait_, "menuvelval", "Velocity: fixed value", commands.menuvelval);
+    add(*trait_, "menuvelper", "Velocity: percent", commands.menuvelper);
+    add(*trait_, "menutrans", "Transpose", commands.menutrans);
+    arrange();
+    connect(this, &QMenu::aboutToShow, this,
+            [this, &paste, can_paste = commands.can_paste,
+             can_change_notes = commands.can_change_notes] {
+              arrange();
+              paste.setEnabled(can_paste());
+              for (QAction* tool : trait_->actions()) tool->setEnabled(can_change_notes());
+            });
+  }
+
+  /// Opens the menu at a point of the screen.
+  void open_over_grid(QPoint at) {
+    over_grid_ = true;
+    popup(at);
+    over_grid_ = false;
+  }
+
+ private:
+  void arrange() {
+    separator_->setVisible(over_grid_);
+    trait_->menuAction()->setVisible(!over_grid_);
+    for (QAction* tool : trait_->actions()) {
+      if (over_grid_) {
+        addAction(tool);
+      } else {
+        removeAction(tool);
+      }
+    }
+  }
+
+  QAction* separator_;
+  QMenu* trait_;
+  bool over_grid_ = false;
+};
 
 /// The menu `menuoutput` with its sixteen items; those without a device are hidden.
 void build_output_menu(QMenuBar& bar, const MenuCommands& commands,
@@ -108,9 +139,9 @@ void add_recent_songs(QMenu& menu, const MenuCommands& commands,
 
 }  // namespace
 
-QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
-                   Property<std::vector<OutputItem>>& outputs,
-                   Property<std::vector<std::string>>& recent) {
+std::function<void(QPoint)> build_menus(QMenuBar& bar, const MenuCommands& commands,
+                                        Property<std::vector<OutputItem>>& outputs,
+                                        Property<std::vector<std::string>>& recent) {
   QMenu& file = add_menu(bar, "menufile", "&File");
   add(file, "menunew", "New", commands.menunew);
   add(file, "menuopen", "Open", commands.menuopen);
@@ -119,7 +150,8 @@ QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
   add(file, "menuexport", "Export as .mid", commands.menuexport);
   add(file, "menuquit", "Quit", commands.menuquit);
   add_recent_songs(file, commands, recent);
-  QMenu& edit = build_edit_menu(bar, commands);
+  auto* edit = new EditMenu(commands, &bar);
+  bar.addMenu(edit);
   QMenu& input = add_menu(bar, "menuinput", "&Input device");
   add(input, "menuask", "Ask for input device next launch", commands.menuask);
   build_output_menu(bar, commands, outputs);
@@ -129,7 +161,7 @@ QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
   QMenu& about = add_menu(bar, "menuabout", "&Help");
   add(about, "menuhelp", "All you have to know", commands.menuhelp);
   add(about, "menuauthor", "About Lunavox", commands.menuauthor);
-  return edit;
+  return [edit](QPoint at) { edit->open_over_grid(at); };
 }
 
 }  // namespace lunavox

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-class QMenu;
 class QMenuBar;
+class QPoint;
 
 namespace lunavox {
 
@@ -42,9 +42,9 @@ struct MenuCommands {
 
 /// Fills the menu bar.
 /// @param recent  names of the songs that were last opened or saved, the latest first
-/// @return the menu `menuedit`, which also opens over the note grid
-QMenu& build_menus(QMenuBar& bar, const MenuCommands& commands,
-                   Property<std::vector<OutputItem>>& outputs,
-                   Property<std::vector<std::string>>& recent);
+/// @return opens the menu `menuedit` over the note grid, at a point of the screen
+std::function<void(QPoint)> build_menus(QMenuBar& bar, const MenuCommands& commands,
+                                        Property<std::vector<OutputItem>>& outputs,
+                                        Property<std::vector<std::string>>& recent);
 
 }  // namespace lunavox

@@ -17,6 +17,7 @@ TracksView::TracksView(Song& song, const Flags& flags, const Property<bool>& cur
   setObjectName(QStringLiteral("tracks"));
   setAccessibleName(QStringLiteral("tracks"));
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  for (QWidget* part : fixed_parts()) part->installEventFilter(this);
 }
 
 void TracksView::keyPressEvent(QKeyEvent* event) {
@@ -36,7 +37,17 @@ void TracksView::keyReleaseEvent(QKeyEvent* event) {
 
 void TracksView::mouseReleaseEvent(QMouseEvent* event) {
   GridView::mouseReleaseEvent(event);
-  if (event->button() == Qt::RightButton && popup_) popup_(event->globalPosition().toPoint());
+  popup_for(*event);
+}
+
+// The captions and the line numbers are the grid too.
+bool TracksView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseButtonRelease) popup_for(*static_cast<QMouseEvent*>(event));
+  return GridView::eventFilter(watched, event);
+}
+
+void TracksView::popup_for(const QMouseEvent& released) {
+  if (released.button() == Qt::RightButton && popup_) popup_(released.globalPosition().toPoint());
 }
 
 // The menu key opens the menu at the cursor; the mouse's button has opened it by then.

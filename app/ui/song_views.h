@@ -23,6 +23,7 @@ class TracksView : public GridView {
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   bool focusNextPrevChild(bool next) override;
@@ -30,6 +31,8 @@ class TracksView : public GridView {
   bool is_beat_line(int row) const override;
 
  private:
+  void popup_for(const QMouseEvent& released);
+
   const Flags& flags_;
   const Property<bool>& curs_;
   NoteKeyboard& keyboard_;

@@ -210,6 +210,19 @@ TEST_F(RealtimeRecordTest, ARecordingCanBeStartedAgain) {
   EXPECT_EQ(studio.row(), 6);
 }
 
+TEST_F(RealtimeRecordTest, EachCountInBeginsAnew) {
+  record();
+  studio.run(5 * kLine + 1);
+  studio.realtime.cancel();
+  studio.count_in.calls.clear();
+  record();
+  EXPECT_EQ(studio.count_in.calls, (std::vector<std::string>{"show Record start in  2"}));
+  studio.run(8 * kLine);
+  EXPECT_TRUE(studio.realtime.counting_in());
+  studio.run(1);
+  EXPECT_FALSE(studio.realtime.counting_in());
+}
+
 TEST_F(RealtimeRecordTest, MovingTheCursorMovesTheRecording) {
   record_at_once();
   studio.song.tracks.set_row(10);

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -62,14 +63,7 @@ struct BlocksWindowTest : testing::Test {
     ASSERT_TRUE(menu.isVisible());
     auto& action = bench.find<QAction>(entry);
     EXPECT_TRUE(action.isEnabled()) << entry;
-    QMenu& holder = trait.actions().contains(&action) ? trait : menu;
-    if (&holder == &trait) {
-      menu.setActiveAction(trait.menuAction());
-      QTest::keyClick(&menu, Qt::Key_Right);
-      WindowBench::settle();
-      ASSERT_TRUE(trait.isVisible());
-    }
-    QTest::mouseClick(&holder, Qt::LeftButton, {}, holder.actionGeometry(&action).center());
+    QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(&action).center());
     WindowBench::settle();
     EXPECT_FALSE(menu.isVisible());
   }
@@ -86,6 +80,16 @@ struct BlocksWindowTest : testing::Test {
     }
     menu.close();
     WindowBench::settle();
+    return found;
+  }
+
+  /// What a menu shows from top to bottom, a separator as "-".
+  static std::vector<std::string> captions(const QMenu& of) {
+    std::vector<std::string> found;
+    for (const QAction* action : of.actions()) {
+      if (!action->isVisible()) continue;
+      found.push_back(action->isSeparator() ? "-" : action->text().toStdString());
+    }
     return found;
   }
 
@@ -228,6 +232,48 @@ TEST_F(BlocksWindowTest, TheWholeOfALongSongIsTransposedCopiedAndCut) {
   EXPECT_EQ(editor.song.tracks.text(3000, 8), "G  0");
   EXPECT_EQ(cursor(), (CellPosition{1, 1}));
   EXPECT_EQ(editor.song.tracks.top_row(), 1) << "the view does not run along";
+}
+
+TEST_F(BlocksWindowTest, OverTheGridTheToolsStandBehindASeparatorInTheMenuItself) {
+  QTest::mousePress(tracks.viewport(), Qt::RightButton, {}, centre({5, 3}));
+  EXPECT_FALSE(menu.isVisible()) << "not before the button is released";
+  QTest::mouseRelease(tracks.viewport(), Qt::RightButton, {}, centre({5, 3}));
+  EXPECT_TRUE(menu.isVisible());
+  EXPECT_THAT(captions(menu), ElementsAre("Cut", "Copy", "Paste", "-", "Velocity: fixed value",
+                                          "Velocity: percent", "Transpose"));
+  menu.close();
+}
+
+TEST_F(BlocksWindowTest, InTheMenuBarTheToolsStandInTheirSubmenuAlsoAfterTheMenuWasOverTheGrid) {
+  click({1, 10});
+  bench.dialogs.inputs = {"1", "2"};
+  choose("menutrans");
+  QMenuBar& bar = *bench.window.menuBar();
+  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(menu.menuAction()).center());
+  WindowBench::settle();
+  EXPECT_THAT(captions(menu), ElementsAre("Cut", "Copy", "Paste", "Selected notes"));
+  EXPECT_THAT(captions(trait),
+              ElementsAre("Velocity: fixed value", "Velocity: percent", "Transpose"));
+  menu.setActiveAction(trait.menuAction());
+  QTest::keyClick(&menu, Qt::Key_Right);
+  WindowBench::settle();
+  ASSERT_TRUE(trait.isVisible());
+  QAction& transpose = bench.find<QAction>("menutrans");
+  QTest::mouseClick(&trait, Qt::LeftButton, {}, trait.actionGeometry(&transpose).center());
+  EXPECT_EQ(entry(2, 1, 1), "643F90") << "by 1, then by 2 semitones";
+}
+
+TEST_F(BlocksWindowTest, TheRightButtonOpensTheMenuOverCaptionsAndLineNumbersToo) {
+  click({3, 10});
+  auto& view = static_cast<QTableView&>(tracks);
+  for (QWidget* part : {view.horizontalHeader()->viewport(), view.verticalHeader()->viewport()}) {
+    QTest::mouseClick(part, Qt::LeftButton, {}, QPoint(8, 8));
+    EXPECT_FALSE(menu.isVisible());
+    QTest::mouseClick(part, Qt::RightButton, {}, QPoint(8, 8));
+    EXPECT_TRUE(menu.isVisible());
+    menu.close();
+  }
+  EXPECT_EQ(cursor(), (CellPosition{3, 10}));
 }
 
 TEST_F(BlocksWindowTest, TheMenuKeyOpensTheMenuAtTheCursor) {

@@ -36,7 +36,7 @@ class CountIn : public ::testing::Test {
 
 TEST_F(CountIn, ShowsTheCaptionsThatItIsGiven) {
   EXPECT_EQ(dialog.objectName(), "Form9");
-  EXPECT_TRUE(control<QLabel>(dialog, "recordstartin").text().startsWith("Record start in"));
+  EXPECT_EQ(control<QLabel>(dialog, "recordstartin").text(), "Record start in");
   show();
   EXPECT_EQ(control<QLabel>(dialog, "recordstartin").text(), "Record start in  4");
   dialog.set_caption("Record start in  3");
