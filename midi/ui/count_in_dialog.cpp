@@ -50,6 +50,8 @@ void CountInDialog::set_caption(const std::string& caption) {
 }
 
 void CountInDialog::hide() {
+  // Not every desktop gives the keys back to the window behind a dialog.
+  if (isActiveWindow() && parentWidget() != nullptr) parentWidget()->activateWindow();
   QDialog::hide();
   if (hidden_) hidden_();
 }
