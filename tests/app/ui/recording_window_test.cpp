@@ -1,14 +1,11 @@
 #include "app/ui/widgets/picture_button.h"
-#include "tests/support/shown_boxes.h"
 #include "window_bench.h"
 
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QTableView>
-#include <fstream>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -17,115 +14,11 @@ namespace lunavox {
 namespace {
 
 using test::error_box;
-using test::ShownBoxes;
 using test::WindowBench;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 constexpr quint32 kQ = 16;  // the input device's key codes
 constexpr quint32 kSpace = 57;
-
-/// A first start on a machine with eleven MIDI inputs: the window and its input device dialog.
-struct FirstStartTest : testing::Test {
-  FirstStartTest() {
-    for (int number = 0; number < 11; ++number) {
-      inputs.device_names.push_back("Keyboard " + std::to_string(number));
-    }
-  }
-  ~FirstStartTest() override {
-    if (!shell.ended()) return;
-    QTimer::singleShot(0, [] { QCoreApplication::quit(); });
-    QCoreApplication::exec();
-  }
-
-  static QPushButton& button(const QWidget& dialog, const char* name) {
-    return *dialog.findChild<QPushButton*>(QLatin1String(name));
-  }
-
-  static void click(const QWidget& dialog, const char* name) {
-    QTest::mouseClick(&button(dialog, name), Qt::LeftButton);
-  }
-
-  static void choose(const QWidget& dialog, int position) {
-    auto* list = dialog.findChild<QListWidget*>(QStringLiteral("List1"));
-    list->scrollToItem(list->item(position));
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                      list->visualItemRect(list->item(position)).center());
-  }
-
-  std::string config() const {
-    std::ifstream file(folders.config_file(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-
-  ShownBoxes boxes;
-  test::TempFolder home;
-  test::RecordingOutput outputs;
-  test::ScriptedInputs inputs;
-  ManualClock clock;
-  test::ScriptedDialogs dialogs;
-  ProgramFolders folders{std::filesystem::path(LUNAVOX_SOURCE_DIR) / "data",
-                         std::filesystem::path(LUNAVOX_SOURCE_DIR) / "skin", home.path() / "config",
-                         home.path() / "state"};
-  WindowShell shell{{outputs, inputs, clock, folders}, {}, &dialogs};
-};
-
-TEST_F(FirstStartTest, TheChosenInputIsOpenedRememberedAndHeard) {
-  boxes.next<QDialog>([this](QDialog& form2) {
-    EXPECT_EQ(form2.objectName().toStdString(), "Form2");
-    const auto* list = form2.findChild<QListWidget*>(QStringLiteral("List1"));
-    ASSERT_EQ(list->count(), 11);
-    EXPECT_EQ(list->item(3)->text().toStdString(), "Keyboard 3");
-    EXPECT_EQ(inputs.opened, -1) << "nothing is opened before the choice";
-    choose(form2, 3);
-    click(form2, "Command1");
-  });
-  shell.start("");
-  EXPECT_EQ(inputs.opened, 3);
-  EXPECT_EQ(config(), "input=3\r\nboot=1\r\n");
-  EXPECT_TRUE(shell.editor().current_loop.is(shell.editor().listen));
-  outputs.calls.clear();
-  inputs.play(0x143C95);
-  WindowBench::settle();
-  EXPECT_EQ(outputs.take_shorts(), (std::vector<std::uint32_t>{0x4000E9, 0x7F3C99}));
-}
-
-TEST_F(FirstStartTest, TheEleventhInputIsOpenedAndRememberedAsItsLastDigit) {
-  boxes.next<QDialog>([](QDialog& form2) {
-    choose(form2, 10);
-    click(form2, "Command1");
-  });
-  shell.start("");
-  EXPECT_EQ(inputs.opened, 10);
-  EXPECT_EQ(config(), "input=0\r\nboot=1\r\n");
-}
-
-TEST_F(FirstStartTest, ConfirmingWithoutAChoiceIsRefusedAndTheDialogStays) {
-  boxes.next<QDialog>([this](QDialog& form2) {
-    click(form2, "Command1");
-    EXPECT_THAT(dialogs.messages, ElementsAre(error_box("You must select an input device")));
-    EXPECT_TRUE(form2.isVisible());
-    EXPECT_EQ(config(), "");
-    choose(form2, 0);
-    click(form2, "Command1");
-  });
-  shell.start("");
-  EXPECT_EQ(inputs.opened, 0);
-  EXPECT_EQ(config(), "input=0\r\nboot=1\r\n");
-}
-
-TEST_F(FirstStartTest, QuitEndsTheProgramAtOnce) {
-  boxes.next<QDialog>([](QDialog& form2) {
-    choose(form2, 2);
-    click(form2, "Command2");
-  });
-  shell.start("");
-  EXPECT_EQ(shell.ended(), 0);
-  EXPECT_EQ(inputs.opened, -1);
-  EXPECT_FALSE(shell.editor().output.is_open());
-  EXPECT_EQ(config(), "");
-  EXPECT_THAT(dialogs.messages, IsEmpty());
-}
 
 /// Recording under the mouse and the keys, on a clock that is set by hand. A line is 125 ms.
 struct RecordingWindowTest : testing::Test {

@@ -72,6 +72,32 @@ TEST_F(StartWindowTest, TheFirstStartAsksForTheInputAndGoesOnWithTheChosenOne) {
   EXPECT_TRUE(listens());
 }
 
+TEST_F(StartWindowTest, ConfirmingWithoutAChoiceIsRefusedAndTheDialogStays) {
+  at_form2([this](QListWidget& devices, QDialog& form2) {
+    click(form2, "Command1");
+    EXPECT_THAT(dialogs.messages, ElementsAre(error_box("You must select an input device")));
+    EXPECT_TRUE(form2.isVisible());
+    EXPECT_FALSE(home.has("config/lvconfig.ini"));
+    devices.setCurrentRow(0);
+    click(form2, "Command1");
+  });
+  shell.start("");
+  EXPECT_EQ(inputs.opened, 0);
+}
+
+TEST_F(StartWindowTest, TheEleventhInputIsOpenedAndRememberedAsItsLastDigit) {
+  for (int number = 2; number <= 10; ++number) {
+    inputs.device_names.push_back("Keyboard " + std::to_string(number));
+  }
+  at_form2([](QListWidget& devices, QDialog& form2) {
+    devices.setCurrentRow(10);
+    click(form2, "Command1");
+  });
+  shell.start("");
+  EXPECT_EQ(inputs.opened, 10);
+  EXPECT_EQ(home.read("config/lvconfig.ini"), "input=0\r\nboot=1\r\n");
+}
+
 TEST_F(StartWindowTest, QuittingInsteadOfChoosingEndsTheProgram) {
   at_form2([](QListWidget&, QDialog& form2) { click(form2, "Command2"); });
   shell.start("");
