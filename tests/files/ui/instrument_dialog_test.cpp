@@ -197,6 +197,15 @@ TEST_F(VoiceDialog, ANoteThatIsHeldEndsWhenTheDialogClosesOrTheKeysGoElsewhere) 
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x003C9FU));
 }
 
+TEST_F(VoiceDialog, APressEndsTheNoteThatIsStillHeld) {
+  click(0, 4);
+  QTest::keyPress(&instrulist, Qt::Key_Space);
+  output.calls.clear();
+  press(1, 0);
+  EXPECT_THAT(output.take_shorts(),
+              ElementsAre(0x003C9FU, 0x0000BFU, 0x0020BFU, 0x01CFU, 0x7E3C9FU));
+}
+
 TEST_F(VoiceDialog, WithPreviewUntickedNothingSoundsAndTheOctaveIsGrey) {
   click_preview();
   EXPECT_FALSE(text1.isEnabled());
