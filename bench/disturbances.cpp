@@ -104,7 +104,8 @@ std::vector<Disturbance> Disturbances::all() {
     all.push_back(by_script(what, script, std::move(happening)));
   };
   add("the window is moved", move_script(), std::make_unique<Events<QMainWindow>>(QEvent::Move));
-  add("the window is resized", size_script(), std::make_unique<Events<QMainWindow>>(QEvent::Resize));
+  add("the window is resized", size_script(),
+      std::make_unique<Events<QMainWindow>>(QEvent::Resize));
   add("cells are selected by mouse", select_script(),
       std::make_unique<Events<QWindow>>(QEvent::MouseMove));
   add("menus and lists are opened", menu_script(), std::make_unique<Events<QMenu>>(QEvent::Show));

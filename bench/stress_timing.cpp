@@ -14,8 +14,8 @@ constexpr double kWorstMs = 2;
 
 void print_heading() {
   std::printf("%-38s %6s %30s   %30s\n", "", "", "lines late by ms", "bare waits late by ms");
-  std::printf("%-38s %6s %10s%10s%10s   %10s%10s%10s\n", "while", "times", "half", "99 of 100", "all",
-              "half", "99 of 100", "all");
+  std::printf("%-38s %6s %10s%10s%10s   %10s%10s%10s\n", "while", "times", "half", "99 of 100",
+              "all", "half", "99 of 100", "all");
 }
 
 /// @return whether lines were hardly later than bare waits
