@@ -6,6 +6,8 @@
 #include <QObject>
 #include <map>
 
+class QWidget;
+
 namespace lunavox {
 
 class LoopDriver;
@@ -21,6 +23,8 @@ class LineRoom : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
+  bool hold_back(QWidget& window);
+  int& expected_ms(QEvent::Type type);
   void repaint(QObject& window, QEvent& event);
 
   LoopDriver& driver_;

@@ -26,6 +26,8 @@ class LoopDriver : public QObject {
   /// played first. What arrives while that line is waited for is dealt with.
   /// @param work_ms  what the work takes, milliseconds
   void make_room(int work_ms);
+  /// Milliseconds until the loop is due, less than 0 where it is late; none where it is never due.
+  std::optional<std::int32_t> left_ms();
 
  protected:
   void customEvent(QEvent* event) override;
@@ -34,8 +36,6 @@ class LoopDriver : public QObject {
   void run();
   void schedule();
   void hurry(bool lines);
-  /// Milliseconds until the loop is due, less than 0 where it is late; none where it is never due.
-  std::optional<std::int32_t> left_ms();
   void wait_until(std::uint32_t due);
 
   CurrentLoop& current_;

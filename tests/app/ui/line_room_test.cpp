@@ -4,7 +4,9 @@
 #include "counting_loop.h"
 
 #include <QMenu>
+#include <QResizeEvent>
 #include <QTest>
+#include <QWidget>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -12,25 +14,43 @@
 namespace lunavox {
 namespace {
 
-/// A window that writes down when it is repainted, which takes as long as it is told.
-class SlowWindow : public QWindow {
- public:
-  SlowWindow(ManualClock& clock, std::string& story) : clock_(clock), story_(story) {}
+/// What is shown, written down, and how long that takes.
+struct Paint {
+  void operator()() {
+    story += "paint ";
+    clock.advance(takes_ms);
+  }
 
+  ManualClock& clock;
+  std::string& story;
   std::uint32_t takes_ms = 0;
+};
+
+/// A window in which something has changed.
+class ChangedWindow : public QWidget {
+ public:
+  explicit ChangedWindow(Paint& paint) : paint_(paint) {}
 
  protected:
   bool event(QEvent* event) override {
-    if (event->type() == QEvent::UpdateRequest) {
-      story_ += "repaint ";
-      clock_.advance(takes_ms);
-    }
-    return QWindow::event(event);
+    if (event->type() == QEvent::UpdateRequest) paint_();
+    return QWidget::event(event);
   }
 
  private:
-  ManualClock& clock_;
-  std::string& story_;
+  Paint& paint_;
+};
+
+/// A window that the window system has resized.
+class ResizedWindow : public QWindow {
+ public:
+  explicit ResizedWindow(Paint& paint) : paint_(paint) {}
+
+ protected:
+  void resizeEvent(QResizeEvent* /*event*/) override { paint_(); }
+
+ private:
+  Paint& paint_;
 };
 
 struct LineRoomTest : testing::Test {
@@ -41,15 +61,23 @@ struct LineRoomTest : testing::Test {
   }
 
   /// A line is due in so many milliseconds.
-  void line_in(std::uint32_t ms) { loop.due = clock.timeGetTime() + ms; }
-  void repaint() {
-    QEvent request(QEvent::UpdateRequest);
-    QCoreApplication::sendEvent(&window, &request);
+  void line_in(int ms) { loop.due = clock.timeGetTime() + static_cast<std::uint32_t>(ms); }
+  void resize() {
+    QResizeEvent event({200, 100}, {100, 100});
+    QCoreApplication::sendEvent(&resized, &event);
   }
-  /// Lets the editor know what a repaint takes.
-  void repaint_often() {
+  void repaint() {
+    QEvent event(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&changed, &event);
+  }
+  /// Lets the editor learn what painting takes.
+  void paint_often(std::uint32_t takes_ms) {
     loop.due.reset();
-    for (int i = 0; i < 30; ++i) repaint();
+    paint.takes_ms = takes_ms;
+    for (int i = 0; i < 30; ++i) {
+      resize();
+      repaint();
+    }
     story.clear();
   }
 
@@ -59,46 +87,74 @@ struct LineRoomTest : testing::Test {
   LoopDriver driver{current, clock};
   LineRoom room{driver, clock};
   std::string story;
-  SlowWindow window{clock, story};
+  Paint paint{clock, story};
+  ChangedWindow changed{paint};
+  ResizedWindow resized{paint};
 };
 
-TEST_F(LineRoomTest, ARepaintThatWouldNotEndBeforeTheNextLineComesAfterIt) {
-  window.takes_ms = 12;
-  repaint_often();
+TEST_F(LineRoomTest, AResizeThatWouldNotEndBeforeTheNextLineComesAfterIt) {
+  paint_often(12);
+  line_in(12);
+  resize();
+  EXPECT_EQ(story, "line paint ");
+}
+
+TEST_F(LineRoomTest, AResizeThatEndsBeforeTheNextLineDoesNotWaitForIt) {
+  paint_often(12);
+  line_in(14);
+  resize();
+  EXPECT_EQ(story, "paint ");
+}
+
+TEST_F(LineRoomTest, ARepaintThatWouldNotEndBeforeTheNextLineIsHeldBackUntilAfterIt) {
+  paint_often(12);
   line_in(12);
   repaint();
-  EXPECT_EQ(story, "line repaint ");
+  EXPECT_EQ(story, "") << "no line either: a handler that asks to paint is not done yet";
+  clock.advance(12);
+  loop.lines_left = 1;
+  driver.wake();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return story.size() > 5; }));
+  EXPECT_EQ(story, "line paint ");
 }
 
-TEST_F(LineRoomTest, ARepaintThatEndsBeforeTheNextLineDoesNotWaitForIt) {
-  window.takes_ms = 12;
-  repaint_often();
+TEST_F(LineRoomTest, ARepaintThatEndsBeforeTheNextLineIsDoneAtOnce) {
+  paint_often(12);
   line_in(14);
   repaint();
-  EXPECT_EQ(story, "repaint ");
+  EXPECT_EQ(story, "paint ");
 }
 
-TEST_F(LineRoomTest, ShorterRepaintsWaitForLessAfterAWhile) {
-  window.takes_ms = 12;
-  repaint_often();
-  window.takes_ms = 1;
-  repaint_often();
+TEST_F(LineRoomTest, ALineThatIsLateAlreadyHoldsNoRepaintBack) {
+  paint_often(12);
+  line_in(-1);
+  repaint();
+  EXPECT_EQ(story, "paint ");
+}
+
+TEST_F(LineRoomTest, PaintingThatHasBecomeQuickerWaitsForLess) {
+  paint_often(12);
+  paint_often(1);
+  line_in(3);
+  resize();
   line_in(3);
   repaint();
-  EXPECT_EQ(story, "repaint ");
+  EXPECT_EQ(story, "paint paint ");
 }
 
-TEST_F(LineRoomTest, NoRepaintWaitsForMoreThanTwentyMilliseconds) {
-  window.takes_ms = 100;
-  repaint_often();
+TEST_F(LineRoomTest, NothingWaitsLongerThanTwentyMilliseconds) {
+  paint_often(100);
+  line_in(21);
+  resize();
   line_in(21);
   repaint();
-  EXPECT_EQ(story, "repaint ");
+  EXPECT_EQ(story, "paint paint ");
 }
 
-TEST_F(LineRoomTest, EachRepaintIsDoneOnce) {
-  for (int i = 0; i < 3; ++i) repaint();
-  EXPECT_EQ(story, "repaint repaint repaint ");
+TEST_F(LineRoomTest, WithoutLinesEverythingIsPaintedOnceAndAtOnce) {
+  resize();
+  repaint();
+  EXPECT_EQ(story, "paint paint ");
 }
 
 TEST_F(LineRoomTest, WhatAMenuBeginsComesAfterALineThatIsDueSoon) {
