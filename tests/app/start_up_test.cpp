@@ -299,6 +299,19 @@ TEST(Editor, ATypedNoteSoundsAndIsRecordedStepByStep) {
   EXPECT_EQ(editor.song.tracks.row(), 2);
 }
 
+TEST(Editor, TheSpaceBarGivesTheKeysToTheNotesWhateverItDid) {
+  EditorBench bench;
+  bench.start();
+  int focused = 0;
+  bench.editor.shell.focus_tracks = [&] { ++focused; };
+  bench.editor.note_keys.keystart(32);  // starts recording
+  bench.editor.note_keys.keystart(32);  // stops it
+  bench.editor.song.tracks.set_column(9);
+  bench.editor.note_keys.keystart(32);  // is refused
+  EXPECT_EQ(focused, 3);
+  EXPECT_EQ(bench.dialogs.messages.size(), 1U);
+}
+
 TEST(Editor, ADriverThatRefusesSystemExclusiveIsToldAndEverythingElseGoesOn) {
   EditorBench bench;
   bench.output.long_result = 11;

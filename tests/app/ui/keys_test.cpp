@@ -174,6 +174,17 @@ TEST_F(KeysTest, PlaybackMovesTheCursorAndFollowsItAtTheTop) {
   EXPECT_EQ(editor.song.tracks.top_row(), 7);
 }
 
+TEST_F(KeysTest, PlaybackThatIsNotFollowedLeavesTheLinesInViewWhereTheyAre) {
+  editor.song.tracks.set_cursor(62, 1);
+  editor.song.tracks.set_top_row(10);
+  QTest::keyPress(&tracks(), Qt::Key_Control);
+  bench.clock.advance(126);
+  bench.shell.wake();
+  WindowBench::settle();
+  EXPECT_EQ(editor.song.tracks.row(), 63);
+  EXPECT_EQ(editor.song.tracks.top_row(), 10);
+}
+
 TEST_F(KeysTest, PlayFromBeginningStartsAtTheFirstLine) {
   bench.find<QCheckBox>("begin").setChecked(true);
   editor.song.tracks.set_cursor(30, 1);

@@ -180,6 +180,15 @@ TEST_F(NoteEntryTest, InAnEffectCellTheSpaceBarIsTextAndRecordsNothing) {
   EXPECT_EQ(grid.text(5, 9), "127 ");
 }
 
+TEST_F(NoteEntryTest, InAnEffectCellNeitherThePressNorTheReleaseOfAKeyIsANotes) {
+  grid.set_cursor(5, 9);
+  WindowBench::settle();
+  bench.outputs.calls.clear();
+  bench.press(kQ);
+  bench.release(kQ);
+  EXPECT_THAT(bench.outputs.take_shorts(), IsEmpty());
+}
+
 TEST_F(NoteEntryTest, ADeletedKeyOfTheFirstLineIsRefused) {
   grid.set_cursor(2, 9);
   grid.set_cursor(1, 9);
@@ -210,6 +219,14 @@ TEST_F(NoteEntryTest, KeysInADialogPlayNothing) {
   before.setFocus();
   QTest::keyClicks(&before, QStringLiteral("q2w"));
   EXPECT_THAT(bench.outputs.take_shorts(), IsEmpty());
+}
+
+TEST_F(NoteEntryTest, TheControlKeyInADialogStartsNothing) {
+  bench.find<QCheckBox>("realtime").click();
+  auto& before = bench.find<QLineEdit>("before");
+  QTest::keyPress(&before, Qt::Key_Control);
+  EXPECT_FALSE(editor.flags.playing);
+  EXPECT_EQ(picture("playnotes"), "play1");
 }
 
 TEST_F(NoteEntryTest, AWindowThatIsLeftEndsItsNotes) {

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
 
@@ -105,6 +106,7 @@ TEST_F(RecordingWindowTest, TheCountInCountsDownOnTheScreenAndThenTheKeysAreReco
   EXPECT_EQ(picture("recordnotes"), "stoprec1");
   for (int i = 0; i < 3; ++i) line();
   EXPECT_TRUE(form9.isVisible());
+  bench.find<QLineEdit>("bpm").setFocus();
   line();
   EXPECT_FALSE(form9.isVisible());
   EXPECT_TRUE(keys_are_back());
