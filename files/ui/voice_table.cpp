@@ -22,6 +22,12 @@ bool is_letter(const QKeyEvent& event) {
   return modifiers == Qt::NoModifier && !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
+/// A key that only changes what others mean, as Shift does for a capital letter.
+bool is_modifier(const QKeyEvent& event) {
+  const bool modifier = event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock;
+  return modifier || event.key() == Qt::Key_AltGr;
+}
+
 }  // namespace
 
 VoiceTable::VoiceTable(const VoiceBanks& banks, QWidget* parent)
@@ -88,7 +94,7 @@ void VoiceTable::keyPressEvent(QKeyEvent* event) {
     if (!event->isAutoRepeat() && currentIndex().isValid()) press(selected());
   } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     event->ignore();  // for the dialog's OK
-  } else if (!take_search_key(*event)) {
+  } else if (!is_modifier(*event) && !take_search_key(*event)) {
     end_search();
     QTableView::keyPressEvent(event);
   }

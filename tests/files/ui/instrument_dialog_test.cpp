@@ -3,6 +3,7 @@
 #include "tests/support/voice_bench.h"
 #include "tests/support/widgets.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -342,6 +343,17 @@ TEST_F(VoiceDialog, AnArrowKeyEndsTheSearch) {
   EXPECT_FALSE(details.text().contains("panf"));
   test::type(dialog, "grandp");
   EXPECT_EQ(selected(), "GrandPno");
+}
+
+TEST_F(VoiceDialog, AKeyThatOnlyChangesOthersDoesNotEndTheSearch) {
+  test::type(dialog, "pan");
+  for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_CapsLock, Qt::Key_AltGr}) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(&instrulist, &press);
+    EXPECT_TRUE(details.text().contains("pan"));
+  }
+  test::type(dialog, "F");
+  EXPECT_EQ(selected(), "PanFlute");
 }
 
 TEST_F(VoiceDialog, SaysWhatTheSelectedCellIs) {
