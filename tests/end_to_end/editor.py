@@ -8,6 +8,8 @@ import subprocess
 import tempfile
 
 import jack
+import midi_log
+import song_text
 
 TOOLS = jack.TOOLS + ("Xvfb", "import", "setxkbmap", "xdotool")
 MAIN = "Lunavox 2.1"
@@ -110,8 +112,9 @@ class Editor:
         for key in keys:
             self._do("key", str(KEYS.get(key, key)))
 
-    def click(self, place, times=1):
-        self._do("mousemove", str(place[0]), str(place[1]), "click", "--repeat", str(times), "1")
+    def click(self, place, times=1, button=1):
+        self._do("mousemove", str(place[0]), str(place[1]), "click", "--repeat", str(times),
+                 str(button))
 
     def type(self, text):
         self._do("type", "--delay", "1", text)
@@ -121,15 +124,21 @@ class Editor:
         self.key("alt+f", *["Down"] * FILE_COMMANDS.index(caption), "Return")
 
     def save_as(self, path):
-        """Saves the song by the menu and gives its file's lines."""
+        """Saves the song by the menu and gives what stands in its file."""
+        self.write("Save as", "Save.*", path)
+        return song_text.read(path)
+
+    def export(self, path):
+        self.write("Export as .mid", "Export", path)
+
+    def write(self, command, title, path):
         with contextlib.suppress(FileNotFoundError):
             os.remove(path)
-        self.file_command("Save as")
-        self.window("Save.*").type(path)
+        self.file_command(command)
+        self.window(title).type(path)
         self.key("Return")
         jack.wait_until(lambda: os.path.exists(path), path)
         self.main()
-        return song_lines(path)
 
     def open(self, path):
         sent = len(self.sent())
@@ -154,50 +163,25 @@ class Editor:
     # What the editor has sent
 
     def sent(self):
-        """The short messages sent so far: (milliseconds, bytes in hexadecimal "90 3c 64")."""
-        messages = []
-        with contextlib.suppress(FileNotFoundError), open(self.log_file, encoding="ascii") as log:
-            for line in log:
-                if not line.endswith("\n"):
-                    break  # still being written
-                time, kind, text = line.split()
-                if kind == "short":
-                    messages.append((float(time), f"{text[6:]} {text[4:6]} {text[2:4]}".lower()))
-        return messages
+        """What was put on the wire so far: (milliseconds, bytes in hexadecimal "90 3c 64")."""
+        return list(midi_log.timed_wire(self.log_file))
 
     def notes(self):
         """The note-ons among them that have a velocity."""
-        return [(time, text) for time, text in self.sent()
-                if text.startswith("9") and not text.endswith(" 00")]
+        return [(time, text) for time, text in self.sent() if midi_log.is_note(text)]
 
     def wait_for_notes(self, count):
         jack.wait_until(lambda: len(self.notes()) >= count, f"note number {count}")
         return self.notes()
 
 
-def song_lines(path):
-    with open(path, encoding="latin-1", newline="") as file:
-        return file.read().split("\r\n")
-
-
-def drum_notes(lines):
-    """The entries of the drum track's first note column, line by line, of a song that has no other
-    track and no bookmark."""
-    assert lines[1].strip() == "1" and lines[7].strip() == "0"
-    rows = int(lines[2])
-    used = 8 + 1 + 33
-    if int(lines[used]) == 0:
-        return []
-    return lines[used + 1:used + rows]
-
-
 @contextlib.contextmanager
-def stage():
+def stage(*server_options):
     """A JACK server with a display and a home for what is started on it."""
     with contextlib.ExitStack() as stack:
         home = stack.enter_context(tempfile.TemporaryDirectory())
         display = stack.enter_context(Display())
-        server = stack.enter_context(jack.JackServer())
+        server = stack.enter_context(jack.JackServer(*server_options))
         server.environment.update(
             DISPLAY=display.name, HOME=home, XDG_CONFIG_HOME=f"{home}/config",
             XDG_STATE_HOME=f"{home}/state", XDG_RUNTIME_DIR=home, QT_QPA_PLATFORM="xcb")

@@ -146,6 +146,13 @@ class JackServer(contextlib.ExitStack):
         asked = self._ask("jack_connect", source, target)
         assert asked.returncode == 0, asked.stderr
 
+    def sequence(self, name):
+        """Starts a player of two notes on channel 1 over and over: 60, and 63 a quarter of a second
+        later."""
+        player = self.run("jack_midiseq", name, "24000", "0", "60", "6000", "12000", "63", "6000")
+        self.wait_for_port(f"{name}:out")
+        return player
+
     def monitor(self):
         """Starts a client that prints what it receives."""
         return self._listener(Monitor(self.run("stdbuf", "-oL", "jack_midi_dump")))

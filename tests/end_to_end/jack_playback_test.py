@@ -9,41 +9,12 @@ import tempfile
 import unittest
 
 import jack
+import midi_log
+from midi_log import RESET, XG_SET_UP, is_note
 
 LUNAVOX = None
 RECORDER = None
 SONG = None
-
-CHANNEL_RESET = ["b{0} 78 00", "b{0} 7b 00", "b{0} 07 7f", "b{0} 0a 40", "b{0} 01 01", "b{0} 4a 40",
-                 "b{0} 5b 28", "b{0} 5d 01", "b{0} 5e 01", "b{0} 49 40", "b{0} 48 40"]
-RESET = [text.format(f"{channel:x}") for channel in range(15) for text in CHANNEL_RESET]
-XG_SET_UP = ["f0 43 10 4c 00 00 7e 00 f7", "f0 43 10 4c 02 01 58 40 f7",
-             "f0 43 10 4c 02 01 59 40 f7", "f0 43 10 4c 02 01 5a 01 f7"]
-
-
-def wire_text(packed):
-    """The bytes of a packed message, as the monitor prints them; none without a status byte."""
-    status = packed & 0xFF
-    if status < 0x80:
-        return None
-    data = [packed >> 8 & 0x7F, packed >> 16 & 0x7F]
-    length = 1 if status & 0xF0 in (0xC0, 0xD0) else 2
-    return " ".join(f"{byte:02x}" for byte in [status] + data[:length])
-
-
-def wire_log(path):
-    """What a MIDI log says was put on the wire."""
-    messages = []
-    with open(path, encoding="ascii") as log:
-        for line in log:
-            _, kind, text = line.rstrip("\n").split("\t")
-            messages.append(wire_text(int(text, 16)) if kind == "short"
-                            else bytes.fromhex(text).hex(" "))
-    return [message for message in messages if message]
-
-
-def is_note(message):
-    return message.startswith("9") and not message.endswith(" 00")
 
 
 def first_note(messages):
@@ -69,7 +40,7 @@ class JackPlayback(unittest.TestCase):
     def test_every_message_of_a_song_arrives_in_order(self):
         recorder = self.server.recorder(RECORDER)
         self.assert_ended_well(self.play_to(recorder))
-        sent = wire_log(self.log)
+        sent = midi_log.wire(self.log)
         received = recorder.wait_for(len(sent))
         self.assertEqual(received[:len(sent)], sent)
 
@@ -84,7 +55,7 @@ class JackPlayback(unittest.TestCase):
     def test_a_program_of_others_receives_the_song(self):
         monitor = self.server.monitor()
         self.assert_ended_well(self.play_to(monitor))
-        sent = wire_log(self.log)
+        sent = midi_log.wire(self.log)
         song = sent[first_note(sent):]
         song = song[:song.index(RESET[0]) + monitor.MOST]
 
@@ -103,7 +74,7 @@ class JackPlayback(unittest.TestCase):
         jack.wait_until(lambda: first_note(recorder.messages()), "note")
         player.signal(signal.SIGINT)
         self.assert_ended_well(player)
-        sent = wire_log(self.log)
+        sent = midi_log.wire(self.log)
         received = recorder.wait_for(len(sent))[:len(sent)]
         self.assertEqual(received, sent)
         self.assertEqual(received[-len(RESET):], RESET)

@@ -41,9 +41,9 @@ class Recovery(unittest.TestCase):
         """What stands in the song that the next start brings back."""
         window = self.start()
         window.window("Restore").key("Return")
-        lines = window.main().save_as(f"{self.home}/restored.lvx")
+        song = window.main().save_as(f"{self.home}/restored.lvx")
         window.quit()
-        return editor.drum_notes(lines)[:len(TUNE) + 1]
+        return song.column(1, 1)[:len(TUNE) + 1]
 
     def test_a_termination_keeps_unsaved_work_at_once(self):
         for wish in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
@@ -101,8 +101,8 @@ class Recovery(unittest.TestCase):
         window.file_command("Quit")
         window.window("Quit").key("Escape")
         window.wait_for_no_window("Quit")
-        lines = window.save_as(f"{self.home}/kept.lvx")
-        self.assertEqual(editor.drum_notes(lines)[:len(TUNE) + 1], ENTRIES + [""])
+        song = window.save_as(f"{self.home}/kept.lvx")
+        self.assertEqual(song.column(1, 1)[:len(TUNE) + 1], ENTRIES + [""])
         window.quit()
         self.assertEqual(self.kept_songs(), [])
 
