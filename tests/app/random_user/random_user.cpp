@@ -99,6 +99,7 @@ void RandomUser::prepare_answers(const Action& action) {
   dialogs.opened.clear();
   dialogs.saved.clear();
   bench_.progress.shown.clear();
+  bench_.progress.values.clear();
   bench_.inputs.calls.clear();
   bench_.count_in.calls.clear();
   dialogs.inputs = {pick(kAnswers, action.b)};
