@@ -139,7 +139,7 @@ class SeenEditor(editor.Editor):
 
     def go_to(self, track, column, line):
         """Puts the cursor on a cell: with the mouse on its column, with keys on its line."""
-        self.key("Home")  # into view
+        self.main().key("Home")  # into view
         jack.wait_until(lambda: self.status().line.startswith("Line 0 "), "first line")
         self.press(self.cell(track, column, 0))
         self.key(*["Down"] * line)

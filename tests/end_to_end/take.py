@@ -10,23 +10,24 @@ class Take:
     """Lines count from 0; recording began on line 0."""
 
     def __init__(self, messages, count_in, lines_per_beat, column):
-        """@param messages: (milliseconds, bytes) from the count-in's first click to the end
+        """@param messages: (milliseconds, bytes) from before the count-in on
         @param count_in: its beats
         @param column: what stands in the note column, line by line"""
         self.clicks = [time for time, text in messages if text == midi_log.CLICK]
         self.column = column
-        heard = [[]]
+        heard = []  # after each click
         for _, text in messages:
             if text == midi_log.CLICK:
                 heard.append([])
-            elif midi_log.is_note(text):
+            elif midi_log.is_note(text) and heard:
                 heard[-1].append(text)
-        # Nothing is heard before the count-in is over.
-        self.heard = [sum(heard[:count_in + 1], [])] + heard[count_in + 1:]
+        self.count_in = heard[:count_in - 1]
+        self.heard = heard[count_in - 1:]
         self.lines_per_beat = lines_per_beat
 
     def beats(self):
-        """For each click and what came before it: the notes heard, the notes written."""
+        """For each click of the recording, the notes heard and the notes written before it. The
+        first one's line is the first, and waits for what came in while it was counted."""
         for beat, heard in enumerate(self.heard):
             last = beat * self.lines_per_beat
             first = max(last - self.lines_per_beat + 1, 0)
@@ -35,13 +36,14 @@ class Take:
     def check(self, test):
         """Each note was written in the beat in which it was heard. Notes on one line replace each
         other, the last one stands; the last beat was broken off."""
+        test.assertFalse(any(self.count_in), self.count_in)
         beats = list(self.beats())
         for heard, written in beats:
             rest = iter(heard)
             test.assertTrue(all(note in rest for note in written), beats)
         for heard, written in beats[:-1]:
             test.assertEqual(heard[-1:], written[-1:], beats)
-        after = self.column[len(beats) * self.lines_per_beat:]
+        after = self.column[(len(beats) - 1) * self.lines_per_beat + 1:]
         test.assertFalse([entry for entry in after if entry], beats)
 
     def line_distance(self):
