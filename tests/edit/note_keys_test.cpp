@@ -117,6 +117,13 @@ TEST_F(NoteKeysTest, F2ToF7ShiftTheOctave) {
   EXPECT_THAT(queued(), ElementsAre(0x006790U, 0x7E6790U));  // note 103, the highest
 }
 
+TEST_F(NoteKeysTest, F1AndF8AreNoOctaveKeys) {
+  keys.keystart(112);
+  EXPECT_EQ(keys.octaveshift(), 0);
+  keys.keystart(119);
+  EXPECT_EQ(keys.octaveshift(), 0);
+}
+
 TEST_F(NoteKeysTest, ReleasingAnOctaveKeyChangesNothing) {
   keys.keystart(113);
   keys.keystop(115);
@@ -195,6 +202,19 @@ TEST_F(NoteKeysTest, TheCellUnderTheCursorIsMeantWhateverTheCurrentTrackWas) {
   song.tracks.set_cursor(2, 12);
   keys.keystart(8);
   EXPECT_EQ(song.notes.at(2, 3, 2), "stop");
+}
+
+TEST_F(NoteKeysTest, InAnEffectColumnDeleteAndBackspaceWriteTheCellAndLeaveTheCurve) {
+  song.tracks.set_cursor(4, 9);
+  song.tracks.set_text(4, 9, "127");
+  keys.keystart(46);
+  EXPECT_EQ(song.tracks.text(4, 9), "");
+  EXPECT_EQ(song.tracks.cursor(), (CellPosition{5, 9}));
+  keys.keystart(8);
+  EXPECT_EQ(song.tracks.text(5, 9), "stop");
+  EXPECT_EQ(song.notes.at(1, 0, 5), "stop");
+  EXPECT_EQ(values(1, kVolume, 4, 5), (std::vector<int>{127, 127}));
+  EXPECT_EQ(song.key_attributes.at(1, kVolume, 4), 0);
 }
 
 TEST_F(NoteKeysTest, TheSpaceBarStartsAndStopsRecordingEvenWhenItRepeats) {

@@ -33,11 +33,28 @@ TEST_F(RecordOptionsTest, NoBeatsAndEightAreAccepted) {
 }
 
 TEST_F(RecordOptionsTest, WhatIsNoNumberIsRefused) {
-  for (const char* text : {"", " ", "four", "-1", "-"}) {
+  for (const char* text : {"", " ", "four", "-", ".", "+-3", "3x", "2 beats", "1.2.3", "1 2"}) {
     EXPECT_FALSE(options.before_change(text, dialogs)) << text;
   }
-  EXPECT_EQ(dialogs.messages.size(), 5U);
+  EXPECT_EQ(dialogs.messages, std::vector<Message>(10, test::error_box("Invalid value (0-8)")));
   EXPECT_EQ(options.before.text(), "4");
+}
+
+TEST_F(RecordOptionsTest, NumbersBelow0AreRefused) {
+  EXPECT_FALSE(options.before_change("-1", dialogs));
+  EXPECT_EQ(dialogs.messages, std::vector<Message>{test::error_box("Invalid value (0-8)")});
+}
+
+TEST_F(RecordOptionsTest, ANumberMayHaveASignAFractionAndBlanksAroundIt) {
+  EXPECT_TRUE(options.before_change(" 3\t", dialogs));
+  EXPECT_EQ(options.before.text(), "3");
+  EXPECT_TRUE(options.before_change("+5", dialogs));
+  EXPECT_EQ(options.before.text(), "5");
+  EXPECT_TRUE(options.before_change("6.0", dialogs));
+  EXPECT_EQ(options.before.text(), "6");
+  EXPECT_TRUE(options.before_change(".9", dialogs));
+  EXPECT_EQ(options.before.text(), "1");
+  EXPECT_TRUE(dialogs.messages.empty());
 }
 
 TEST_F(RecordOptionsTest, RecVelocityGreysTheStrengthField) {

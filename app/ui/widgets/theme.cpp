@@ -6,6 +6,7 @@
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QScreen>
 #include <QStyleFactory>
 #include <algorithm>
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int kCaptionPixels = 11;
 constexpr qreal kDesignDpi = 96;
+constexpr int kPictureCacheKb = 1024;
 
 QPalette palette() {
   QPalette palette;
@@ -151,6 +153,9 @@ void apply(QApplication& application) {
   QApplication::setPalette(palette());
   QApplication::setFont(caption_font(1));
   application.setStyleSheet(QString::fromLatin1(kStyleSheet));
+  // Every file dialog leaves a hundred kilobytes of small pictures in the cache, whose usual limit
+  // is ten megabytes. The next dialog draws its own.
+  QPixmapCache::setCacheLimit(kPictureCacheKb);
 }
 
 }  // namespace lunavox::theme

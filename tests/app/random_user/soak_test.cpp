@@ -28,8 +28,13 @@ using test::Script;
 /// How much of the heap may be in use more at the end of a soak than at its beginning. In an hour,
 /// that is some sixty bytes a round.
 constexpr std::size_t kHeapAllowance = 8 * 1024;
-/// The same for the process, whose allocator keeps what was freed for a while.
+/// The same for the process, whose allocator keeps what was freed for a while. The thread sanitizer
+/// also keeps account of all memory that was ever touched.
+#ifdef __SANITIZE_THREAD__
+constexpr std::size_t kResidentAllowance = 1024 * 1024 * 1024;
+#else
 constexpr std::size_t kResidentAllowance = 24 * 1024 * 1024;
+#endif
 
 /// Records a few notes in columns here and there.
 void add_tune(Script& script, std::mt19937& chance) {

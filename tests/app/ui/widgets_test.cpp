@@ -7,6 +7,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPixmapCache>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
@@ -227,6 +228,10 @@ TEST_F(QtProgressBoxTest, WorkBeforeThereIsAWindowShowsNothing) {
   early.show("adding drum track...", 1);
   early.set_value(1);
   early.hide();
+}
+
+TEST(Theme, PicturesOfDialogsThatAreGoneDoNotPileUp) {
+  EXPECT_EQ(QPixmapCache::cacheLimit(), 1024);  // kilobytes
 }
 
 }  // namespace
