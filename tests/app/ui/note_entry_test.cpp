@@ -221,14 +221,6 @@ TEST_F(NoteEntryTest, KeysInADialogPlayNothing) {
   EXPECT_THAT(bench.outputs.take_shorts(), IsEmpty());
 }
 
-TEST_F(NoteEntryTest, TheControlKeyInADialogStartsNothing) {
-  bench.find<QCheckBox>("realtime").click();
-  auto& before = bench.find<QLineEdit>("before");
-  QTest::keyPress(&before, Qt::Key_Control);
-  EXPECT_FALSE(editor.flags.playing);
-  EXPECT_EQ(picture("playnotes"), "play1");
-}
-
 TEST_F(NoteEntryTest, AWindowThatIsLeftEndsItsNotes) {
   bench.press(kQ);
   bench.outputs.calls.clear();
