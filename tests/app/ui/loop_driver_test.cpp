@@ -3,8 +3,9 @@
 #include "counting_loop.h"
 
 #include <QCoreApplication>
-#include <QEventLoop>
-#include <QTest>
+#include <QDialog>
+#include <QMenu>
+#include <QTimer>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -18,6 +19,20 @@ using test::TickingClock;
 struct LoopDriverTest : testing::Test {
   static void settle() {
     for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+  }
+
+  /// Begins to play once what is about to open has its own event loop running, and closes that
+  /// with the third line, or without lines after a while.
+  void play_three_lines_in(const std::function<void()>& close) {
+    constexpr int kPatienceMs = 5000;
+    loop.due = 0;
+    loop.lines_left = 3;
+    clock.set(100);
+    loop.in_pass = [this, close] {
+      if (loop.passes == 3) close();
+    };
+    QTimer::singleShot(0, &driver, [this] { current.set(&loop); });
+    QTimer::singleShot(kPatienceMs, &driver, close);
   }
 
   ManualClock clock;
@@ -91,6 +106,21 @@ TEST_F(LoopDriverTest, WithoutALoopNothingIsDriven) {
   current.set(nullptr);
   settle();
   EXPECT_EQ(loop.passes, 0);
+}
+
+TEST_F(LoopDriverTest, LinesGoOnWhileABoxStandsOpen) {
+  QDialog box;
+  play_three_lines_in([&box] { box.close(); });
+  box.exec();
+  EXPECT_EQ(loop.passes, 3);
+}
+
+TEST_F(LoopDriverTest, LinesGoOnWhileAMenuIsOpen) {
+  QMenu menu;
+  menu.addAction(QStringLiteral("New"));
+  play_three_lines_in([&menu] { menu.close(); });
+  menu.exec(QPoint(0, 0));
+  EXPECT_EQ(loop.passes, 3);
 }
 
 TEST_F(LoopDriverTest, WorkThatEndsBeforeTheNextLineBeginsAtOnce) {
