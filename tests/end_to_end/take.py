@@ -16,13 +16,17 @@ class Take:
         self.clicks = [time for time, text in messages if text == midi_log.CLICK]
         self.column = column
         heard = []  # after each click
-        for _, text in messages:
+        times = []  # of what did not wait for the end of the count-in
+        for time, text in messages:
             if text == midi_log.CLICK:
                 heard.append([])
             elif midi_log.is_note(text) and heard:
                 heard[-1].append(text)
+                if len(heard) > count_in:
+                    times.append(time)
         self.count_in = heard[:count_in - 1]
         self.heard = heard[count_in - 1:]
+        self.note_ms = median(later - time for time, later in zip(times, times[1:]))
         self.lines_per_beat = lines_per_beat
 
     def beats(self):
@@ -46,14 +50,15 @@ class Take:
         after = self.column[(len(beats) - 1) * self.lines_per_beat + 1:]
         test.assertFalse([entry for entry in after if entry], beats)
 
-    def line_distance(self):
-        """The usual number of lines from a written note to the next."""
+    def check_time(self, test, beat_ms):
+        """The metronome keeps its time, and notes stand as far apart as they came: on a busy machine
+        that may be farther than they were sent."""
+        beats = median(later - time for time, later in zip(self.clicks, self.clicks[1:]))
+        test.assertLess(abs(beats - beat_ms), beat_ms / 10)
         lines = [line for line, entry in enumerate(self.column) if entry]
-        return median(later - line for line, later in zip(lines, lines[1:]))
-
-    def beat_ms(self):
-        return median(later - time for time, later in zip(self.clicks, self.clicks[1:]))
-
+        distance = median(later - line for line, later in zip(lines, lines[1:]))
+        line_ms = beat_ms / self.lines_per_beat
+        test.assertLess(abs(distance * line_ms - self.note_ms), line_ms, lines)
 
 def sounded(entry):
     """A note's entry, as the message that sounds it."""
