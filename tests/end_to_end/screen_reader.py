@@ -17,11 +17,12 @@ ROOT = "/org/a11y/atspi/accessible/root"
 SESSION = """<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig><type>session</type><listen>unix:path={}</listen><policy context="default">
-<allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/></policy></busconfig>
+<allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/>
+</policy></busconfig>
 """
 
 # Bits of the states that a node tells.
-CHECKED, ENABLED, FOCUSED, SELECTED, SHOWING = 4, 8, 12, 23, 25
+CHECKED, FOCUSED, SHOWING = 4, 12, 25
 ON_SCREEN = 0
 
 
@@ -106,18 +107,12 @@ class Node:
     def checked(self):
         return self._is(CHECKED)
 
-    def enabled(self):
-        return self._is(ENABLED)
-
     def focused(self):
         """Whether the keys go there."""
         return self._is(FOCUSED)
 
     def showing(self):
         return self._is(SHOWING)
-
-    def selected(self):
-        return self._is(SELECTED)
 
     def text(self):
         """What stands in a text field."""

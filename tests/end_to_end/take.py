@@ -51,8 +51,8 @@ class Take:
         test.assertFalse([entry for entry in after if entry], beats)
 
     def check_time(self, test, beat_ms):
-        """The metronome keeps its time, and notes stand as far apart as they came: on a busy machine
-        that may be farther than they were sent."""
+        """The metronome keeps its time, and notes stand as far apart as they came: on a busy
+        machine that may be farther than they were sent."""
         beats = median(later - time for time, later in zip(self.clicks, self.clicks[1:]))
         test.assertLess(abs(beats - beat_ms), beat_ms / 10)
         lines = [line for line, entry in enumerate(self.column) if entry]
