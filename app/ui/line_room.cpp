@@ -47,8 +47,12 @@ LineRoom::~LineRoom() {
   qApp->removeEventFilter(this);
 }
 
+void LineRoom::before_long_work() {
+  driver_.make_room(kLongestWaitMs);
+}
+
 bool LineRoom::eventFilter(QObject* receiver, QEvent* event) {
-  if (works_a_menu(*receiver, event->type())) driver_.make_room(kLongestWaitMs);
+  if (works_a_menu(*receiver, event->type())) before_long_work();
   if (repainting_) return false;
   if (QWidget* window = changed_window(*receiver, event->type())) {
     if (!hold_back(*window)) repaint(*window, *event);

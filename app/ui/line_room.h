@@ -19,6 +19,10 @@ class LineRoom : public QObject {
   LineRoom(LoopDriver& driver, Clock& clock);
   ~LineRoom() override;
 
+  /// Work of unknown length is about to begin, where window events have run just now: a line that
+  /// is due soon is played before it.
+  void before_long_work();
+
  protected:
   bool eventFilter(QObject* receiver, QEvent* event) override;
 

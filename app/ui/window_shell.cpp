@@ -71,6 +71,7 @@ WindowShell::~WindowShell() {
 void WindowShell::tie() {
   Editor& e = *editor_;
   screen_dialogs_.set_window(window_.get());
+  screen_dialogs_.on_long_work([this] { line_room_.before_long_work(); });
   progress_.set_window(window_.get());
   e.notequeue.set_wake([this] { driver_.wake(); });
   const auto end_early = [this](int status) {

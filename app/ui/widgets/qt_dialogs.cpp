@@ -112,13 +112,18 @@ QString QtDialogs::folder() const {
   return folder_ ? QString::fromStdString(folder_()) : QString();
 }
 
+std::string QtDialogs::chosen_file(QFileDialog& dialog) const {
+  const bool chosen = dialog.exec() == QDialog::Accepted;
+  if (long_work_begins_) long_work_begins_();
+  return chosen ? dialog.selectedFiles().value(0).toStdString() : std::string();
+}
+
 std::string QtDialogs::open_file(const FileQuestion& question) {
   QFileDialog dialog(window_, QString::fromStdString(question.title), folder(),
                      file_filter(question.filter));
   dialog.setObjectName(QStringLiteral("openfile"));
   dialog.setFileMode(QFileDialog::ExistingFile);
-  if (dialog.exec() != QDialog::Accepted) return {};
-  return dialog.selectedFiles().value(0).toStdString();
+  return chosen_file(dialog);
 }
 
 std::string QtDialogs::save_file(const FileQuestion& question) {
@@ -127,8 +132,7 @@ std::string QtDialogs::save_file(const FileQuestion& question) {
   dialog.setObjectName(QStringLiteral("savefile"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(first_suffix(question.filter));
-  if (dialog.exec() != QDialog::Accepted) return {};
-  return dialog.selectedFiles().value(0).toStdString();
+  return chosen_file(dialog);
 }
 
 }  // namespace lunavox

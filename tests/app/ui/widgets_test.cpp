@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -72,6 +73,19 @@ TEST(QtDialogs, QuestionsAreAnsweredByTheirButtons) {
     answer_box<QMessageBox>([b = button](QMessageBox& box) { box.button(b)->click(); });
     EXPECT_EQ(dialogs.message(question), answer);
   }
+}
+
+TEST(QtDialogs, AFileDialogIsTakenDownAfterItHasBeenTold) {
+  QWidget window;
+  QtDialogs dialogs;
+  dialogs.set_window(&window);
+  int told_while_it_stood = 0;
+  dialogs.on_long_work([&] { told_while_it_stood += window.findChild<QFileDialog*>() != nullptr; });
+  for (const auto& ask : {&QtDialogs::open_file, &QtDialogs::save_file}) {
+    QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+    EXPECT_EQ((dialogs.*ask)({"Lunavox (*.lvx)|*.lvx", "File"}), "");
+  }
+  EXPECT_EQ(told_while_it_stood, 2);
 }
 
 TEST(QtDialogs, OnlyACriticalMessageHasAnIcon) {
