@@ -1,6 +1,7 @@
 option(LUNAVOX_TESTS "Build the tests" ON)
 option(LUNAVOX_BENCH "Build the benchmarks" OFF)
 option(LUNAVOX_FUZZ "Build the libFuzzer programs; needs clang" OFF)
+option(LUNAVOX_COVERAGE "Have the programs count which of their lines run" OFF)
 set(LUNAVOX_SANITIZE "" CACHE STRING "Sanitizers to build with, such as address,undefined")
 
 add_library(lunavox_options INTERFACE)
@@ -15,6 +16,10 @@ if(LUNAVOX_SANITIZE)
                                                    # false alarms in instrumented code
                                                    -Wno-maybe-uninitialized)
   target_link_options(lunavox_options INTERFACE -fsanitize=${LUNAVOX_SANITIZE})
+endif()
+if(LUNAVOX_COVERAGE)
+  target_compile_options(lunavox_options INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(lunavox_options INTERFACE --coverage)
 endif()
 if(LUNAVOX_FUZZ)
   # The warnings are kept clean with the compiler that the program is built with.

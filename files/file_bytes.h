@@ -11,8 +11,7 @@ namespace lunavox {
 inline constexpr std::size_t kLargestFile = 32U << 20U;
 
 /// The bytes of a whole file.
-/// @throws RuntimeError: File not found, Permission denied, Path/File access error for what is not
-/// a
+/// @throws RuntimeError: File not found, Permission denied, Path/File access error for what is no
 ///         regular file, Out of memory for a file larger than kLargestFile
 std::string read_file(const std::filesystem::path& path);
 

@@ -1,5 +1,6 @@
 #include "app/headless.h"
 
+#include "app/console.h"
 #include "files/song_file.h"
 #include "midi/ports/null_device.h"
 #include "tests/support/recording_output.h"
@@ -158,6 +159,26 @@ TEST_F(HeadlessRun, TheDevicesAreListedWithTheirNumbers) {
 TEST_F(HeadlessRun, TheVersionIsPrinted) {
   EXPECT_EQ(run({"--version"}), 0);
   EXPECT_EQ(results_.str(), "Lunavox 2.1\n");
+}
+
+TEST_F(HeadlessRun, TheHelpSaysHowTheProgramIsCalled) {
+  EXPECT_EQ(run({"--help"}), 0);
+  EXPECT_EQ(results_.str().substr(0, 6), "Usage:");
+  EXPECT_EQ(errors_.str(), "");
+}
+
+TEST_F(HeadlessRun, EditingNeedsAWindow) {
+  EXPECT_EQ(run({path("in.lvx")}), 1);
+  EXPECT_EQ(errors_.str(), "lunavox: a window is needed to edit\n");
+}
+
+TEST(ConsoleDialogs, NobodyAnswersAQuestionWithoutAWindow) {
+  std::ostringstream errors;
+  ConsoleDialogs dialogs(errors);
+  EXPECT_EQ(dialogs.input({}), "");
+  EXPECT_EQ(dialogs.open_file({}), "");
+  EXPECT_EQ(dialogs.save_file({}), "");
+  EXPECT_FALSE(dialogs.told());
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "tests/support/temp_folder.h"
 
+#include <cstdlib>
 #include <map>
 
 #include <gtest/gtest.h>
@@ -23,6 +24,13 @@ void put_banks(const fs::path& folder) {
   fs::create_directories(folder);
   std::ofstream(folder / "instrubank.ini");
   std::ofstream(folder / "drumbank.ini");
+}
+
+TEST(ProgramFolders, TheProcesssOwnEnvironmentKnowsWhatIsSetAndWhatIsNot) {
+  ::setenv("LUNAVOX_TEST_VARIABLE", "a value", 1);
+  EXPECT_EQ(process_environment("LUNAVOX_TEST_VARIABLE"), "a value");
+  ::unsetenv("LUNAVOX_TEST_VARIABLE");
+  EXPECT_EQ(process_environment("LUNAVOX_TEST_VARIABLE"), std::nullopt);
 }
 
 TEST(ProgramFolders, BankFilesBesideTheExecutableMakeItsFolderTheProgramsOwn) {

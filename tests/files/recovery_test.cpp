@@ -284,5 +284,13 @@ TEST_F(Recovery, AFailedWritingIsTold) {
   EXPECT_EQ(desk.recovery.problem(), "Path/File access error: " + desk.recovery.file().string());
 }
 
+TEST_F(Recovery, AnEndingProgramThatCannotWriteSaysSo) {
+  Desk desk(state);
+  desk.edit();
+  std::filesystem::remove_all(state);
+  EXPECT_FALSE(desk.recovery.write_now());
+  EXPECT_EQ(desk.recovery.problem(), "Path/File access error: " + desk.recovery.file().string());
+}
+
 }  // namespace
 }  // namespace lunavox

@@ -29,6 +29,7 @@ class PlayedInputs : public InputDevices {
     void stop() override { owner_.calls.emplace_back("stop"); }
     void reset() override { owner_.calls.emplace_back("reset"); }
     std::string status() const override { return "Keyboard is gone."; }
+    void look_after() override { owner_.calls.emplace_back("look after"); }
 
    private:
     PlayedInputs& owner_;
@@ -85,6 +86,14 @@ TEST_F(InputPortTest, ADeviceThatCannotBeOpenedLeavesNothingOpen) {
 TEST_F(InputPortTest, ADeviceThatHasGoneIsTold) {
   port.open(0);
   EXPECT_EQ(port.status(), "Keyboard is gone.");
+}
+
+TEST_F(InputPortTest, TheOpenDeviceIsLookedAfter) {
+  port.look_after();
+  EXPECT_TRUE(inputs.calls.empty());
+  port.open(0);
+  port.look_after();
+  EXPECT_EQ(inputs.calls, (std::vector<std::string>{"open 0", "look after"}));
 }
 
 }  // namespace

@@ -1,0 +1,60 @@
+#include "files/disk.h"
+
+#include "files/file_bytes.h"
+#include "tests/support/temp_folder.h"
+
+#include <cerrno>
+#include <utility>
+
+#include <gtest/gtest.h>
+
+namespace lunavox {
+namespace {
+
+using Number = RuntimeError::Number;
+
+TEST(Disk, TheSystemsErrorsAreTheRuntimes) {
+  const std::pair<int, Number> expected[] = {
+      {ENOENT, RuntimeError::kFileNotFound},     {ENOSPC, RuntimeError::kDiskFull},
+      {EDQUOT, RuntimeError::kDiskFull},         {EFBIG, RuntimeError::kDiskFull},
+      {EACCES, RuntimeError::kPermissionDenied}, {EPERM, RuntimeError::kPermissionDenied},
+      {EROFS, RuntimeError::kPermissionDenied},  {ENOTDIR, RuntimeError::kPathFileAccessError},
+      {EIO, RuntimeError::kPathFileAccessError},
+  };
+  for (const auto& [system_error, number] : expected) {
+    EXPECT_EQ(disk::error_for(system_error), number) << system_error;
+  }
+}
+
+/// The number of the error that reading ends in, 0 where it succeeds.
+int error_of_reading(const std::filesystem::path& path) {
+  try {
+    read_file(path);
+    return 0;
+  } catch (const RuntimeError& error) {
+    return error.number();
+  }
+}
+
+TEST(FileBytes, AFolderIsNoFileToRead) {
+  const test::TempFolder folder;
+  EXPECT_EQ(error_of_reading(folder.path()), RuntimeError::kPathFileAccessError);
+}
+
+TEST(FileBytes, ADeviceIsNoFileToRead) {
+  EXPECT_EQ(error_of_reading("/dev/zero"), RuntimeError::kPathFileAccessError);
+}
+
+TEST(FileBytes, AFileThatIsNotThereIsNotFound) {
+  const test::TempFolder folder;
+  EXPECT_EQ(error_of_reading(folder.file("none")), RuntimeError::kFileNotFound);
+}
+
+TEST(FileBytes, EveryByteIsRead) {
+  const test::TempFolder folder;
+  const std::string bytes("a\0b\r\n\xFF", 6);
+  EXPECT_EQ(read_file(folder.write("bytes", bytes)), bytes);
+}
+
+}  // namespace
+}  // namespace lunavox
