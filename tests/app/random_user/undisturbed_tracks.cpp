@@ -98,6 +98,8 @@ void UndisturbedTracks::remember(const Editor& editor, const Action& action) {
   // What is being typed is taken when the cursor leaves its cell, by whatever sends it away.
   const bool changes = editor.typing_mode.typing() || !changes_no_track(action.deed);
   at_cursor_ = changes ? track_of_column(editor.song.tracks.column()) : 0;
+  // A block is of one track's columns, and may be pasted over an effect column.
+  pasted_over_ = action.deed == Deed::kPaste ? at_cursor_ + 1 : 0;
   clicked_ = 0;
   if (action.deed == Deed::kClickEffects) {
     const int column = action.a % editor.song.effects.columns();
@@ -105,10 +107,14 @@ void UndisturbedTracks::remember(const Editor& editor, const Action& action) {
   }
 }
 
+bool UndisturbedTracks::has_business_with(int track) const {
+  return track == at_cursor_ || track == pasted_over_ || track == clicked_;
+}
+
 std::string UndisturbedTracks::check(const Editor& editor) const {
   if (!before_) return {};
   for (int t = 1; t <= std::min(before_->track_count, editor.song.track_count); ++t) {
-    if (t == at_cursor_ || t == clicked_) continue;
+    if (has_business_with(t)) continue;
     const std::string changed = difference(*before_, editor.song, t);
     if (!changed.empty()) return "the " + changed + " of track " + std::to_string(t) + " changed";
   }

@@ -40,6 +40,15 @@ TEST_F(UndisturbedTracks, AKeyMayChangeTheTrackOfTheCursorAlone) {
   EXPECT_EQ(check_around(Deed::kPressKey, write_note(3)), "the notes of track 3 changed");
 }
 
+TEST_F(UndisturbedTracks, APastedBlockMayRunOverIntoTheNextTrack) {
+  const auto write_note = [this](int track) {
+    return [this, track] { editor_.song.write_entry(track, 1, 1, "643C90"); };
+  };
+  editor_.song.tracks.set_cursor(1, first_column_of(1));
+  EXPECT_EQ(check_around(Deed::kPaste, write_note(2)), "");
+  EXPECT_EQ(check_around(Deed::kPaste, write_note(3)), "the notes of track 3 changed");
+}
+
 TEST_F(UndisturbedTracks, AClickMayChangeTheTrackWhoseSettingsItHits) {
   const int active3 = effects_column(3, Setting::kActive);
   const auto click = [&] { editor_.curves.effects_click(active3, kPan); };
