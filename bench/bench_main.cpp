@@ -1,8 +1,8 @@
-#include "app/ui/widgets/theme.h"
 #include "bench/edits_bench.h"
 #include "bench/loops_bench.h"
 #include "bench/shown_editor.h"
 #include "bench/song_file_bench.h"
+#include "grid/ui/theme.h"
 
 #include <QApplication>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "bench/shown_editor.h"
 
-#include "app/ui/line_priority.h"
+#include "midi/ui/line_priority.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
-#include "app/ui/widgets/theme.h"
 #include "bench/lateness.h"
 #include "bench/stress_timing.h"
 #include "bench/timing.h"
+#include "grid/ui/theme.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

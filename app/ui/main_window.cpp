@@ -1,11 +1,11 @@
 #include "app/ui/main_window.h"
 
-#include "app/ui/cursor_text.h"
-#include "app/ui/note_keyboard.h"
 #include "app/ui/panel_strip.h"
 #include "app/ui/song_views.h"
-#include "app/ui/widgets/follow.h"
-#include "app/ui/widgets/theme.h"
+#include "edit/ui/note_keyboard.h"
+#include "grid/cursor_text.h"
+#include "grid/ui/follow.h"
+#include "grid/ui/theme.h"
 #include "midi/transport.h"
 
 #include <QApplication>

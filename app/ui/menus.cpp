@@ -1,6 +1,6 @@
 #include "app/ui/menus.h"
 
-#include "app/ui/widgets/follow.h"
+#include "grid/ui/follow.h"
 
 #include <QAction>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #include "app/ui/panel_strip.h"
 
-#include "app/ui/widgets/theme.h"
+#include "grid/ui/theme.h"
 
 #include <algorithm>
 

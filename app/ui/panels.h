@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/ui/widgets/panel.h"
 #include "grid/property.h"
 #include "grid/song.h"
+#include "grid/ui/panel.h"
 #include "midi/button_pictures.h"
 #include "midi/record_options.h"
 

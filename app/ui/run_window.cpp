@@ -1,10 +1,10 @@
 #include "app/ui/run_window.h"
 
-#include "app/ui/keyboard_detection.h"
-#include "app/ui/line_priority.h"
 #include "app/ui/termination_signals.h"
-#include "app/ui/widgets/theme.h"
 #include "app/ui/window_shell.h"
+#include "edit/ui/keyboard_detection.h"
+#include "grid/ui/theme.h"
+#include "midi/ui/line_priority.h"
 
 #include <QApplication>
 #include <functional>

@@ -1,8 +1,8 @@
 #include "app/ui/song_grids.h"
 
 #include "app/ui/song_views.h"
-#include "app/ui/widgets/follow.h"
-#include "app/ui/widgets/theme.h"
+#include "grid/ui/follow.h"
+#include "grid/ui/theme.h"
 
 #include <QHBoxLayout>
 #include <QScrollBar>

@@ -1,6 +1,6 @@
 #include "app/ui/song_views.h"
 
-#include "app/ui/note_keyboard.h"
+#include "edit/ui/note_keyboard.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/ui/grid_view.h"
 #include "grid/flags.h"
 #include "grid/song.h"
+#include "grid/ui/grid_view.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #include "app/ui/status_line.h"
 
-#include "app/ui/widgets/theme.h"
+#include "grid/ui/theme.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,19 +1,19 @@
 #pragma once
 
 #include "app/start_up.h"
-#include "app/ui/line_room.h"
-#include "app/ui/loop_driver.h"
 #include "app/ui/main_window.h"
-#include "app/ui/note_keyboard.h"
-#include "app/ui/widgets/qt_dialogs.h"
-#include "app/ui/widgets/qt_progress_box.h"
-#include "app/ui/widgets/skin_pictures.h"
+#include "edit/ui/note_keyboard.h"
 #include "files/config.h"
 #include "files/file_commands.h"
 #include "files/program_folders.h"
 #include "files/recent_files.h"
 #include "files/recovery.h"
+#include "grid/ui/qt_dialogs.h"
+#include "grid/ui/qt_progress_box.h"
+#include "grid/ui/skin_pictures.h"
 #include "midi/ui/count_in_dialog.h"
+#include "midi/ui/line_room.h"
+#include "midi/ui/loop_driver.h"
 
 #include <QTimer>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "files/ui/column_frames.h"
 
-#include "app/ui/widgets/theme.h"
+#include "grid/ui/theme.h"
 
 #include <QEvent>
 #include <QLabel>

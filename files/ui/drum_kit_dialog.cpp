@@ -1,7 +1,7 @@
 #include "files/ui/drum_kit_dialog.h"
 
-#include "app/ui/widgets/file_text.h"
-#include "app/ui/widgets/theme.h"
+#include "grid/ui/file_text.h"
+#include "grid/ui/theme.h"
 
 #include <QHBoxLayout>
 #include <QListWidget>

@@ -1,8 +1,8 @@
 #include "files/ui/family_header.h"
 
-#include "app/ui/widgets/theme.h"
 #include "files/ui/voice_delegate.h"
 #include "files/voice_families.h"
+#include "grid/ui/theme.h"
 
 #include <QPainter>
 #include <algorithm>

@@ -1,12 +1,12 @@
 #include "files/ui/instrument_dialog.h"
 
-#include "app/ui/widgets/file_text.h"
-#include "app/ui/widgets/follow.h"
-#include "app/ui/widgets/number_field_box.h"
-#include "app/ui/widgets/theme.h"
 #include "files/ui/column_frames.h"
 #include "files/ui/voice_table.h"
 #include "files/voice_families.h"
+#include "grid/ui/file_text.h"
+#include "grid/ui/follow.h"
+#include "grid/ui/number_field_box.h"
+#include "grid/ui/theme.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

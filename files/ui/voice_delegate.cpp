@@ -1,8 +1,8 @@
 #include "files/ui/voice_delegate.h"
 
-#include "app/ui/widgets/theme.h"
 #include "files/ui/voice_table_model.h"
 #include "files/voice_families.h"
+#include "grid/ui/theme.h"
 
 #include <QPainter>
 

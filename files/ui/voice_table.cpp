@@ -1,9 +1,9 @@
 #include "files/ui/voice_table.h"
 
-#include "app/ui/widgets/theme.h"
 #include "files/ui/family_header.h"
 #include "files/ui/voice_delegate.h"
 #include "files/ui/voice_table_model.h"
+#include "grid/ui/theme.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>

@@ -1,6 +1,6 @@
 #include "files/ui/voice_table_model.h"
 
-#include "app/ui/widgets/file_text.h"
+#include "grid/ui/file_text.h"
 
 namespace lunavox {
 

@@ -1,6 +1,6 @@
 #include "midi/ui/count_in_dialog.h"
 
-#include "app/ui/widgets/theme.h"
+#include "grid/ui/theme.h"
 
 #include <QLabel>
 #include <QPushButton>

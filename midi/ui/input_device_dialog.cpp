@@ -1,6 +1,6 @@
 #include "midi/ui/input_device_dialog.h"
 
-#include "app/ui/widgets/theme.h"
+#include "grid/ui/theme.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 #include "midi/ui/record_options_dialog.h"
 
-#include "app/ui/widgets/follow.h"
-#include "app/ui/widgets/number_field_box.h"
-#include "app/ui/widgets/theme.h"
+#include "grid/ui/follow.h"
+#include "grid/ui/number_field_box.h"
+#include "grid/ui/theme.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

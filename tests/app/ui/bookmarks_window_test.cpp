@@ -1,5 +1,5 @@
-#include "app/ui/grid_view.h"
-#include "app/ui/widgets/picture_button.h"
+#include "grid/ui/grid_view.h"
+#include "grid/ui/picture_button.h"
 #include "window_bench.h"
 
 #include <QApplication>

@@ -1,6 +1,5 @@
-#include "app/ui/keyboard_detection.h"
 #include "app/ui/song_views.h"
-#include "app/ui/widgets/picture_button.h"
+#include "grid/ui/picture_button.h"
 #include "window_bench.h"
 
 #include <QCheckBox>
@@ -221,20 +220,6 @@ TEST_F(KeysTest, MenuEntriesThatCanDoNothingAreOff) {
   emit menu.aboutToShow();
   EXPECT_TRUE(bench.find<QAction>("menupaste").isEnabled());
   EXPECT_TRUE(bench.find<QAction>("menutrans").isEnabled());
-}
-
-TEST(KeyboardDetection, TheWishCountsBeforeTheSystem) {
-  EXPECT_EQ(keyboard_layout("azerty"), LayoutSet::kAzerty);
-  EXPECT_EQ(keyboard_layout("qwertz"), LayoutSet::kQwertz);
-  EXPECT_EQ(keyboard_layout("qwerty"), LayoutSet::kQwerty);
-}
-
-TEST(KeyboardDetection, TheFirstLayoutOfTheSystemDecides) {
-  EXPECT_EQ(layout_set_of_xkb("fr,us"), LayoutSet::kAzerty);
-  EXPECT_EQ(layout_set_of_xkb("be"), LayoutSet::kAzerty);
-  EXPECT_EQ(layout_set_of_xkb("de(nodeadkeys)"), LayoutSet::kQwertz);
-  EXPECT_EQ(layout_set_of_xkb("us,de"), LayoutSet::kQwerty);
-  EXPECT_EQ(layout_set_of_xkb(""), LayoutSet::kQwerty);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 #include "app/ui/song_views.h"
-#include "app/ui/widgets/picture_button.h"
+#include "grid/ui/picture_button.h"
 #include "window_bench.h"
 
 #include <QCheckBox>

@@ -1,4 +1,4 @@
-#include "app/ui/widgets/picture_button.h"
+#include "grid/ui/picture_button.h"
 #include "window_bench.h"
 
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 #include "app/ui/song_grids.h"
 
-#include "app/ui/grid_view.h"
+#include "grid/ui/grid_view.h"
+#include "tests/support/window_song.h"
 #include "window_bench.h"
-#include "window_song.h"
 
 #include <QScrollBar>
 #include <algorithm>

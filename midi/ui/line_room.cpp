@@ -1,0 +1,95 @@
+#include "midi/ui/line_room.h"
+
+#include "midi/pass_guard.h"
+#include "midi/ui/loop_driver.h"
+
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QTimer>
+#include <algorithm>
+
+namespace lunavox {
+namespace {
+
+// Until the first one has been timed.
+constexpr int kUsualRepaintMs = 8;
+// Nothing in the window waits longer.
+constexpr int kLongestWaitMs = 20;
+
+/// True for what the window system tells of a window, which is then painted at once.
+bool shows_anew(const QObject& receiver, QEvent::Type type) {
+  return receiver.isWindowType() && (type == QEvent::Resize || type == QEvent::Expose);
+}
+
+/// The window that is to paint what has changed in it, else null.
+QWidget* changed_window(QObject& receiver, QEvent::Type type) {
+  auto* widget = type == QEvent::UpdateRequest ? qobject_cast<QWidget*>(&receiver) : nullptr;
+  return widget != nullptr && widget->isWindow() ? widget : nullptr;
+}
+
+/// True for what opens a menu, or chooses a command, which may build a box.
+bool works_a_menu(const QObject& receiver, QEvent::Type type) {
+  return (type == QEvent::KeyPress || type == QEvent::MouseButtonPress ||
+          type == QEvent::MouseButtonRelease) &&
+         (qobject_cast<const QMenu*>(&receiver) != nullptr ||
+          qobject_cast<const QMenuBar*>(&receiver) != nullptr);
+}
+
+}  // namespace
+
+LineRoom::LineRoom(LoopDriver& driver, Clock& clock) : driver_(driver), clock_(clock) {
+  qApp->installEventFilter(this);
+}
+
+LineRoom::~LineRoom() {
+  qApp->removeEventFilter(this);
+}
+
+void LineRoom::before_long_work() {
+  driver_.make_room(kLongestWaitMs);
+}
+
+bool LineRoom::eventFilter(QObject* receiver, QEvent* event) {
+  if (works_a_menu(*receiver, event->type())) before_long_work();
+  if (repainting_) return false;
+  if (QWidget* window = changed_window(*receiver, event->type())) {
+    if (!hold_back(*window)) repaint(*window, *event);
+    return true;
+  }
+  if (!shows_anew(*receiver, event->type())) return false;
+  driver_.make_room(expected_ms(event->type()));
+  repaint(*receiver, *event);
+  return true;
+}
+
+// No line is played here: a handler that is under way may have asked to paint at once. What is late
+// already is not made better by waiting.
+bool LineRoom::hold_back(QWidget& window) {
+  const auto left = driver_.left_ms();
+  if (!left || *left < 0 || *left > expected_ms(QEvent::UpdateRequest)) return false;
+  QTimer::singleShot(*left, Qt::PreciseTimer, &window,
+                     [this, room = QPointer<LineRoom>(this), &window] {
+                       QEvent request(QEvent::UpdateRequest);
+                       if (room) repaint(window, request);
+                     });
+  return true;
+}
+
+int& LineRoom::expected_ms(QEvent::Type type) {
+  return expected_ms_.try_emplace(type, kUsualRepaintMs).first->second;
+}
+
+// Delivers the event itself, to see how long it takes: that depends on the machine and on the
+// window's size.
+void LineRoom::repaint(QObject& window, QEvent& event) {
+  const PassGuard guard(repainting_);
+  const std::uint32_t start = clock_.timeGetTime();
+  QCoreApplication::sendEvent(&window, &event);
+  const int taken = static_cast<int>(elapsed_ms(start, clock_.timeGetTime()));
+  int& expected = expected_ms(event.type());
+  expected = std::min(std::max(taken + 1, expected - 1), kLongestWaitMs);
+}
+
+}  // namespace lunavox
