@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <algorithm>
+#include <cmath>
 
 namespace lunavox {
 namespace {
@@ -17,6 +18,9 @@ namespace {
 constexpr int kUsualRepaintMs = 8;
 // Nothing in the window waits longer.
 constexpr int kLongestWaitMs = 20;
+// By how much a repaint is expected to take less than the one before. While a window is resized, one
+// in a few dozen takes far longer than the others, and is to be reckoned with.
+constexpr double kDecayMs = 1.0 / 16;
 
 /// True for what the window system tells of a window, which is then painted at once.
 bool shows_anew(const QObject& receiver, QEvent::Type type) {
@@ -77,8 +81,9 @@ bool LineRoom::hold_back(QWidget& window) {
   return true;
 }
 
-int& LineRoom::expected_ms(QEvent::Type type) {
-  return expected_ms_.try_emplace(type, kUsualRepaintMs).first->second;
+int LineRoom::expected_ms(QEvent::Type type) const {
+  const auto known = expected_ms_.find(type);
+  return known == expected_ms_.end() ? kUsualRepaintMs : static_cast<int>(std::ceil(known->second));
 }
 
 // Delivers the event itself, to see how long it takes: that depends on the machine and on the
@@ -87,9 +92,9 @@ void LineRoom::repaint(QObject& window, QEvent& event) {
   const PassGuard guard(repainting_);
   const std::uint32_t start = clock_.timeGetTime();
   QCoreApplication::sendEvent(&window, &event);
-  const int taken = static_cast<int>(elapsed_ms(start, clock_.timeGetTime()));
-  int& expected = expected_ms(event.type());
-  expected = std::min(std::max(taken + 1, expected - 1), kLongestWaitMs);
+  const double taken = elapsed_ms(start, clock_.timeGetTime()) + 1;
+  double& expected = expected_ms_.try_emplace(event.type(), kUsualRepaintMs).first->second;
+  expected = std::min<double>(std::max(taken, expected - kDecayMs), kLongestWaitMs);
 }
 
 }  // namespace lunavox

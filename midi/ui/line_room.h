@@ -28,12 +28,12 @@ class LineRoom : public QObject {
 
  private:
   bool hold_back(QWidget& window);
-  int& expected_ms(QEvent::Type type);
+  int expected_ms(QEvent::Type type) const;
   void repaint(QObject& window, QEvent& event);
 
   LoopDriver& driver_;
   Clock& clock_;
-  std::map<QEvent::Type, int> expected_ms_;  // what repaints took lately
+  std::map<QEvent::Type, double> expected_ms_;  // what repaints took lately
   bool repainting_ = false;
 };
 

@@ -71,10 +71,10 @@ struct LineRoomTest : testing::Test {
     QCoreApplication::sendEvent(&changed, &event);
   }
   /// Lets the editor learn what painting takes.
-  void paint_often(std::uint32_t takes_ms) {
+  void paint_often(std::uint32_t takes_ms, int times = 30) {
     loop.due.reset();
     paint.takes_ms = takes_ms;
-    for (int i = 0; i < 30; ++i) {
+    for (int i = 0; i < times; ++i) {
       resize();
       repaint();
     }
@@ -134,12 +134,21 @@ TEST_F(LineRoomTest, ALineThatIsLateAlreadyHoldsNoRepaintBack) {
 
 TEST_F(LineRoomTest, PaintingThatHasBecomeQuickerWaitsForLess) {
   paint_often(12);
-  paint_often(1);
+  paint_often(1, 200);
   line_in(3);
   resize();
   line_in(3);
   repaint();
   EXPECT_EQ(story, "paint paint ");
+}
+
+TEST_F(LineRoomTest, ARepaintThatWasFarSlowerThanTheOthersIsReckonedWithForAWhile) {
+  paint_often(2, 200);
+  paint_often(12, 1);
+  paint_often(2);
+  line_in(10);
+  resize();
+  EXPECT_EQ(story, "line paint ");
 }
 
 TEST_F(LineRoomTest, NothingWaitsLongerThanTwentyMilliseconds) {
