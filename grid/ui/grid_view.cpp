@@ -203,7 +203,8 @@ void GridView::shape_changed() {
 }
 
 void GridView::selection_changed() {
-  const bool moved = shown_cursor_ != grid_.cursor();
+  // A step to another column of a line that was scrolled away is no reason to go back there.
+  const bool moved = shown_cursor_.row != grid_.cursor().row;
   if (moved && follows_cursor()) bring_into_view(grid_.cursor());
   if (grid_.selection_end() != grid_.cursor() && dragging_) bring_into_view(grid_.selection_end());
   show_cursor_and_selection();

@@ -236,6 +236,26 @@ TEST_F(CurvesWindowTest, TheLinesInViewStayWhereTheyAreWhenACurveIsRedrawn) {
   EXPECT_EQ(tracks.verticalScrollBar()->value(), 199);
 }
 
+TEST_F(CurvesWindowTest, TheLinesInViewStayWhereTheyAreWhenTheCursorChangesItsColumnElsewhere) {
+  editor.song_length.length_validate("600");
+  tracks.verticalScrollBar()->setValue(0);
+  editor.tracks.addinstrutrack();
+  WindowBench::settle();
+  ASSERT_EQ(editor.song.tracks.row(), 600);
+  EXPECT_EQ(editor.song.tracks.top_row(), 1);
+
+  click_setting(2, Setting::kActive, kPan);
+  EXPECT_EQ(editor.song.tracks.top_row(), 1);
+
+  click_setting(2, Setting::kStartValue, kInstrument);
+  QTest::keyClick(&bench.find<QDialog>("Form5"), Qt::Key_Escape);
+  EXPECT_EQ(editor.song.tracks.cursor(), (CellPosition{600, 10}));
+  EXPECT_EQ(editor.song.tracks.top_row(), 1);
+
+  editor.tracks.menudeltrack_click();
+  EXPECT_EQ(editor.song.tracks.top_row(), 1);
+}
+
 /// The three lists under the mouse. A list passes over the release of a button within a double
 /// click's time of its opening, so that time is made nothing.
 struct XgListsTest : CurvesWindowTest {
