@@ -7,7 +7,9 @@
 #include "midi/ui/line_priority.h"
 
 #include <QApplication>
+#include <cstdlib>
 #include <functional>
+#include <iostream>
 
 namespace lunavox {
 namespace {
@@ -30,6 +32,15 @@ class Application : public QApplication {
   }
 };
 
+/// What becomes of the toolkit's messages until there is a window. Where none can be opened it
+/// would abort, with lines that are for its own developers.
+void tell_of_no_display(QtMsgType type, const QMessageLogContext&, const QString&) {
+  if (type != QtFatalMsg) return;
+  std::cerr << "lunavox: there is no display for the window; lunavox --help tells what needs none"
+            << std::endl;
+  std::_Exit(EXIT_FAILURE);
+}
+
 int run(Application& application, WindowShell& shell, const std::string& song) {
   application.fault = [&shell](const std::string& text) { shell.end_on_fault(text); };
   const TerminationSignals termination([&shell] { shell.end_at_once(); });
@@ -47,7 +58,9 @@ int run_window(const CommandLine& line, OutputDevices& outputs, InputDevices& in
   int argc = 1;
   char name[] = "lunavox";
   char* argv[] = {name, nullptr};
+  qInstallMessageHandler(tell_of_no_display);
   Application application(argc, argv);
+  qInstallMessageHandler(nullptr);
   QApplication::setApplicationName(QStringLiteral("lunavox"));
   QApplication::setOrganizationName(QStringLiteral("lunavox"));
   QApplication::setApplicationDisplayName(QString());
