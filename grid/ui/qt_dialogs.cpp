@@ -6,16 +6,23 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPainter>
 #include <QSettings>
+#include <QTreeView>
 
 namespace lunavox {
 namespace {
 
 constexpr int kIconSize = 36;
+constexpr int kInputWidth = 300;  // leaves the longest title its room
+constexpr QSize kFileDialogSize{760, 480};
+constexpr int kPlaceIconSize = 16;
 constexpr QColor kCriticalColour{0xf0, 0x5a, 0x4a};
 
 QString shown(const std::string& text) {
@@ -38,6 +45,19 @@ QPixmap critical_mark() {
   painter.setFont(font);
   painter.drawText(QRect(0, 0, size, size), Qt::AlignCenter, QStringLiteral("!"));
   return pixmap;
+}
+
+/// The toolkit's own dialog opens too small to show what its columns hold.
+void lay_out(QFileDialog& dialog) {
+  dialog.resize(theme::scaled(kFileDialogSize.width()), theme::scaled(kFileDialogSize.height()));
+  if (auto* places = dialog.findChild<QListView*>(QStringLiteral("sidebar"))) {
+    places->setIconSize(QSize(kPlaceIconSize, kPlaceIconSize));
+  }
+  auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (files == nullptr) return;  // the desktop's own dialog
+  files->header()->setStretchLastSection(false);
+  files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
 }
 
 Answer answer_of(int button) {
@@ -83,7 +103,11 @@ Answer QtDialogs::message(const Message& message) {
   box.setTextFormat(Qt::PlainText);
   box.setText(shown(message.text));
   const bool asks = message.buttons == Buttons::kYesNoCancel;
-  if (message.icon == Icon::kCritical) box.setIconPixmap(critical_mark());
+  if (message.icon == Icon::kCritical) {
+    box.setIconPixmap(critical_mark());
+    auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (text != nullptr) text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  }
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
                               : QMessageBox::StandardButtons(QMessageBox::Ok));
   box.setDefaultButton(asks ? QMessageBox::Yes : QMessageBox::Ok);
@@ -104,7 +128,10 @@ std::string QtDialogs::input(const Question& question) {
   box.setWindowTitle(QString::fromStdString(question.title));
   box.setLabelText(QString::fromStdString(question.prompt));
   box.setTextValue(file_text(question.default_text));
-  if (auto* text = box.findChild<QLineEdit*>()) text->selectAll();
+  if (auto* text = box.findChild<QLineEdit*>()) {
+    text->setMinimumWidth(theme::scaled(kInputWidth));
+    text->selectAll();
+  }
   return box.exec() == QDialog::Accepted ? box.textValue().toStdString() : std::string();
 }
 
@@ -113,6 +140,7 @@ QString QtDialogs::folder() const {
 }
 
 std::string QtDialogs::chosen_file(QFileDialog& dialog) const {
+  lay_out(dialog);
   const bool chosen = dialog.exec() == QDialog::Accepted;
   if (long_work_begins_) long_work_begins_();
   return chosen ? dialog.selectedFiles().value(0).toStdString() : std::string();

@@ -94,7 +94,7 @@ QPushButton:pressed { background: #1b1e25; }
 QPushButton:focus { border-color: #ffb454; }
 QPushButton:default { background: #ffb454; color: #17130c; border-color: #ffb454; }
 QPushButton:default:hover { background: #ffc274; }
-QPushButton:disabled { color: #585f6d; }
+QPushButton:disabled { background: #1b1e25; color: #585f6d; border-color: #262b34; }
 QScrollBar:vertical { background: #101217; width: 12px; margin: 0; border: none; }
 QScrollBar:horizontal { background: #101217; height: 12px; margin: 0; border: none; }
 QScrollBar::handle { background: #3a404c; border-radius: 3px; margin: 2px; }

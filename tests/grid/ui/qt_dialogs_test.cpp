@@ -3,12 +3,14 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <gtest/gtest.h>
 
@@ -82,6 +84,29 @@ TEST(QtDialogs, AFileDialogIsTakenDownAfterItHasBeenTold) {
     EXPECT_EQ((dialogs.*ask)({"Lunavox (*.lvx)|*.lvx", "File"}), "");
   }
   EXPECT_EQ(told_while_it_stood, 2);
+}
+
+TEST(QtDialogs, AFileDialogShowsAllThatItsColumnsHold) {
+  QtDialogs dialogs;
+  answer_box<QFileDialog>([](QFileDialog& dialog) {
+    const auto& columns = *dialog.findChild<QTreeView*>(QStringLiteral("treeView"))->header();
+    EXPECT_GE(dialog.width(), 760);
+    EXPECT_EQ(columns.sectionResizeMode(0), QHeaderView::Stretch);
+    for (int column = 1; column < columns.count(); ++column) {
+      EXPECT_EQ(columns.sectionResizeMode(column), QHeaderView::ResizeToContents) << column;
+    }
+    dialog.reject();
+  });
+  EXPECT_EQ(dialogs.open_file({"Lunavox (*.lvx)|*.lvx", "Open"}), "");
+}
+
+TEST(QtDialogs, AnInputBoxHasRoomForItsTitle) {
+  QtDialogs dialogs;
+  answer_box<QInputDialog>([](QInputDialog& box) {
+    EXPECT_GE(box.width(), 300);
+    box.reject();
+  });
+  EXPECT_EQ(dialogs.input({"enter a value", "effect start value", "64"}), "");
 }
 
 TEST(QtDialogs, OnlyACriticalMessageHasAnIcon) {
