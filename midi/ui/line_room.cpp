@@ -18,8 +18,8 @@ namespace {
 constexpr int kUsualRepaintMs = 8;
 // Nothing in the window waits longer.
 constexpr int kLongestWaitMs = 20;
-// By how much a repaint is expected to take less than the one before. While a window is resized, one
-// in a few dozen takes far longer than the others, and is to be reckoned with.
+// By how much a repaint is expected to take less than the one before. While a window is resized,
+// one in a few dozen takes far longer than the others, and is to be reckoned with.
 constexpr double kDecayMs = 1.0 / 16;
 
 /// True for what the window system tells of a window, which is then painted at once.
