@@ -14,6 +14,13 @@ ReturningPort<Port>::ReturningPort(MidiService service, std::string wanted, Name
 
 template <class Port>
 bool ReturningPort<Port>::open() {
+  was_connected_ = opened_ = false;
+  opened_ = open_port();
+  return opened_;
+}
+
+template <class Port>
+bool ReturningPort<Port>::open_port() {
   if (!port_) {
     port_.emplace(service_.api, names_.client);
     errors_.listen_to(*port_);
@@ -31,12 +38,19 @@ bool ReturningPort<Port>::open() {
 }
 
 template <class Port>
+bool ReturningPort<Port>::connected() const {
+  if (was_connected_ || wanted_.empty() || !service_.jack) return true;
+  return service_.jack->connected(wanted_, names_.client);
+}
+
+template <class Port>
 void ReturningPort<Port>::look_after() {
   if (!service_.alive()) return look_after_service();
+  was_connected_ = connected();
   if (!listed()) {
     gone_ = true;
-  } else if (gone_) {
-    // There again, but our connection went with the old one.
+  } else if (gone_ || !was_connected_) {
+    // There again, but our connection went with the old one; or there, but it was not made.
     if (port_) port_->closePort();
     reopen();
   }
@@ -48,6 +62,7 @@ void ReturningPort<Port>::look_after() {
 template <class Port>
 void ReturningPort<Port>::look_after_service() {
   if (port_) {
+    opened_ = false;
     port_.reset();
     service_.jack.reset();
   } else if ((service_.jack = JackServer::connect())) {
@@ -67,7 +82,7 @@ void ReturningPort<Port>::reopen() {
 template <class Port>
 typename ReturningPort<Port>::State ReturningPort<Port>::state() const {
   if (!service_.alive()) return State::kNoService;
-  return gone_ || !listed() ? State::kAway : State::kThere;
+  return gone_ || !listed() || !connected() ? State::kAway : State::kThere;
 }
 
 template <class Port>

@@ -29,18 +29,26 @@ class ReturningPort {
   /// @throws RtMidiError where the service cannot be used
   /// @return false when the port cannot be opened
   bool open();
+  /// Whether the connection that was asked for has been made. A server only comes to it after a
+  /// while, or never: where the other program was not ready yet.
+  bool connected() const;
   /// To be called now and then.
   void look_after();
   State state() const;
+  /// Whether the service runs and our end of the connection is there. Nothing may be sent while it
+  /// is not: nobody takes anything out of the library's queue then, and the library waits without
+  /// end for room in it.
+  bool usable() const { return opened_ && service_.alive(); }
 
   const MidiService& service() const { return service_; }
   const std::string& wanted() const { return wanted_; }
-  /// The library's object; only to be used while the service is alive.
+  /// The library's object; only to be used while it is usable().
   Port& port() { return *port_; }
   /// What the library had to say.
   PortErrors& errors() { return errors_; }
 
  private:
+  bool open_port();
   void look_after_service();
   void reopen();
   bool listed() const;
@@ -50,6 +58,8 @@ class ReturningPort {
   Names names_;
   std::function<void(Port&)> set_up_;
   bool gone_ = false;
+  bool opened_ = false;
+  bool was_connected_ = false;  // since then, who parts the two does so on purpose
   PortErrors errors_;
   // Asking for the ports' names changes the library's object, not the device.
   mutable std::optional<Port> port_;

@@ -30,10 +30,7 @@ RtMidiOutput::RtMidiOutput(MidiService service, std::string port)
 
 bool RtMidiOutput::open() {
   if (!port_.open()) return false;
-  const std::string& receiver = port_.wanted();
-  if (jack() && !receiver.empty()) {
-    wait_for([&] { return jack()->connected(receiver, kOutputClient); });
-  }
+  wait_for([&] { return port_.connected(); });
   return true;
 }
 
@@ -49,8 +46,8 @@ MidiResult RtMidiOutput::long_message(const SysExBytes& data) {
 }
 
 MidiResult RtMidiOutput::send(std::span<const std::uint8_t> bytes) {
-  if (!port_.service().alive()) return kPortGone;
-  if (!has_room(bytes.size())) return port_.service().alive() ? kPortBusy : kPortGone;
+  if (!port_.usable()) return kPortGone;
+  if (!has_room(bytes.size())) return port_.usable() ? kPortBusy : kPortGone;
   if (jack()) last_send_cycle_ = jack()->cycles();
   port_.errors().clear();
   try {

@@ -82,6 +82,23 @@ class JackPorts(unittest.TestCase):
                                         "The JACK server has stopped: nothing is heard any more."])
         self.assertEqual(client.errors, [])
 
+    def test_an_output_whose_server_comes_back_before_its_receiver_keeps_nobody_waiting(self):
+        receiver = self.server.monitor()
+        client = self.server.run(CLIENT, "send-while-away", "midi-monitor:input")
+        self.server.wait_for_port("Lunavox output:MIDI out")
+        self.server.die()
+        receiver.process.stop()
+        jack.wait_until(lambda: client.lines, "notice of the server's end")
+        self.server.start()
+        jack.wait_until(lambda: len(client.lines) == 3, "answer to what was sent")
+        receiver = self.server.monitor()
+        self.assertEqual(receiver.wait_for(1)[0], "90 3c 64")
+        receiver.process.stop()
+        self.assertEqual(client.wait(), 0, client.errors)
+        self.assertEqual(client.lines, ["The JACK server has stopped: nothing is heard any more.",
+                                        'The MIDI output "midi-monitor:input" is gone.',
+                                        "The MIDI port is gone.", ""])
+
     def test_an_input_whose_sender_ends_tells_so(self):
         sender = self.start_sequencer()
         client = self.server.run(CLIENT, "receive-until-gone", "seq:out")

@@ -3,6 +3,9 @@
 //   ports_client send OUTPUT MESSAGE...      MESSAGE: eight hexadecimal digits of a packed short
 //                                            message, or the bytes of a System Exclusive message
 //   ports_client send-until-gone OUTPUT      sends until the device tells an error, prints it
+//   ports_client send-while-away OUTPUT      looks after the device until its server is back, its
+//                                            port not yet, sends, prints the error, and sends again
+//                                            from when the port is back to when it goes
 //   ports_client receive INPUT COUNT         prints COUNT messages as they arrive
 //   ports_client receive-until-gone INPUT    prints messages until the device tells why it is gone
 #include "midi/device_selection.h"
@@ -67,17 +70,46 @@ int send(const std::string& name, const std::vector<std::string>& messages) {
   return 0;
 }
 
+// Far more than any queue holds: none of it may be waited for.
+MidiResult send_a_flood(OutputDevice& device) {
+  MidiResult result = kMidiOk;
+  for (int i = 0; i < 100000; ++i) result = device.short_message(0x007BB0);
+  return result;
+}
+
 int send_until_gone(const std::string& name) {
   const auto device = open_output(name);
   std::puts("open");
   std::fflush(stdout);
   MidiResult result = kMidiOk;
   while (result == kMidiOk && device->status().empty()) result = device->short_message(0x007BB0);
-  // Far more than any queue holds: none of it may be waited for.
-  for (int i = 0; i < 100000; ++i) result = device->short_message(0x007BB0);
+  result = send_a_flood(*device);
   device->reset();
   std::puts(device->error_text(result).c_str());
   std::puts(device->status().c_str());
+  return 0;
+}
+
+void look_after_until(OutputDevice& device, const std::string& status) {
+  while (device.status() != status) {
+    device.look_after();
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  }
+  std::puts(status.c_str());
+  std::fflush(stdout);
+}
+
+int send_while_away(const std::string& name) {
+  const auto device = open_output(name);
+  look_after_until(*device, "The JACK server has stopped: nothing is heard any more.");
+  look_after_until(*device, "The MIDI output \"" + name + "\" is gone.");
+  std::puts(device->error_text(send_a_flood(*device)).c_str());
+  std::fflush(stdout);
+  look_after_until(*device, "");
+  while (device->status().empty()) {
+    device->short_message(0x643C90);
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
   return 0;
 }
 
@@ -119,6 +151,7 @@ int run(const std::vector<std::string>& arguments) {
     return send(arguments[1], {arguments.begin() + 2, arguments.end()});
   }
   if (command == "send-until-gone" && arguments.size() == 2) return send_until_gone(arguments[1]);
+  if (command == "send-while-away" && arguments.size() == 2) return send_while_away(arguments[1]);
   if (command == "receive" && arguments.size() == 3) {
     return receive(arguments[1], std::stoi(arguments[2]));
   }
