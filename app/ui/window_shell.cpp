@@ -64,6 +64,9 @@ WindowShell::WindowShell(const Machine& machine, const StartUp::Wishes& wishes, 
 }
 
 WindowShell::~WindowShell() {
+  // However the program has come to its end: a message that arrives wakes the driver, which goes
+  // before the editor does.
+  editor_->close_ports();
   progress_.set_window(nullptr);
   count_in_->setParent(nullptr);
 }
@@ -212,7 +215,8 @@ void WindowShell::end_at_once() {
 void WindowShell::end_on_fault(const std::string& text) {
   if (ended_) return;
   ended_ = 1;
-  editor_->current_loop.set(nullptr);
+  // Nothing sounds on while the message stands, nor after the end.
+  editor_->close_ports();
   dialogs_.error(text + "\n\nLunavox has to end." + kept_song());
   // Last: no box can be shown any more after it.
   end(1);

@@ -1,3 +1,4 @@
+#include "midi/ports/null_device.h"
 #include "tests/support/shown_boxes.h"
 #include "window_bench.h"
 
@@ -179,6 +180,45 @@ TEST_F(StartWindowTest, ClosingStopsAndResetsTheInputResetsTheOutputAndClosesBot
   EXPECT_THAT(outputs.calls,
               ElementsAre(Call{Call::kReset, 0, 0, {}}, Call{Call::kClose, 0, 0, {}}));
   EXPECT_EQ(shell.ended(), 0);
+}
+
+/// A fault ends the program where it stands: nobody has stopped what sounds, nor closed the ports.
+TEST_F(StartWindowTest, AFaultSilencesTheOutputBeforeItsMessageAndClosesThePorts) {
+  remember("input=0\r\nboot=1\r\n");
+  shell.start("");
+  outputs.calls.clear();
+  inputs.calls.clear();
+  using Call = test::RecordingOutput::Call;
+  shell.end_on_fault("Overflow");
+  EXPECT_EQ(outputs.calls, (std::vector<Call>{{Call::kReset, 0, 0, {}}, {Call::kClose, 0, 0, {}}}));
+  EXPECT_THAT(inputs.calls, ElementsAre("stop", "reset", "close"));
+  EXPECT_EQ(shell.ended(), 1);
+}
+
+/// An input on which a message arrives at the last moment, while it is being closed.
+struct LateInputs : InputDevices {
+  struct Device : NullInputDevice {
+    explicit Device(InputCallback given) : callback(std::move(given)) {}
+    ~Device() override { callback(0x643C90); }
+    InputCallback callback;
+  };
+  std::vector<std::string> names() override { return {"Keys"}; }
+  std::unique_ptr<InputDevice> open(int, InputCallback callback) override {
+    return std::make_unique<Device>(std::move(callback));
+  }
+  std::string open_error() const override { return {}; }
+};
+
+TEST(WindowShell, AMessageThatArrivesAsTheWindowGoesDoesNoHarm) {
+  const test::TempFolder home;
+  test::RecordingOutput outputs;
+  LateInputs inputs;
+  ManualClock clock;
+  test::ScriptedDialogs dialogs;
+  const StartUp::Wishes wishes = {std::nullopt, "Keys", LayoutSet::kQwerty};
+  WindowShell shell({outputs, inputs, clock, test::folders_with_home(home)}, wishes, &dialogs);
+  shell.start("");
+  EXPECT_TRUE(shell.editor().input.is_open());
 }
 
 }  // namespace
