@@ -1,16 +1,21 @@
 # lunavox_room(NAME FOLDER sources... [LINKS targets...])
 #
 # One static library for one room. Other rooms reach its headers as "FOLDER/header.h", and only
-# when they link it: each room has an include directory of its own that holds nothing but a link to
-# the room's folder, so an include against the direction of the arrows does not compile.
+# when they link it: each room has an include directory of its own that holds nothing but links to
+# the headers in the room's folder, without those in folders below, which are rooms of their own. So
+# an include against the direction of the arrows does not compile.
 function(lunavox_room name folder)
   cmake_parse_arguments(ROOM "" "" "LINKS" ${ARGN})
   add_library(${name} STATIC ${ROOM_UNPARSED_ARGUMENTS})
-  string(REPLACE "/" "_" view "${folder}")
-  set(include_root "${CMAKE_BINARY_DIR}/rooms/${view}")
-  get_filename_component(parent "${include_root}/${folder}" DIRECTORY)
-  file(MAKE_DIRECTORY "${parent}")
-  file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${folder}" "${include_root}/${folder}" SYMBOLIC)
-  target_include_directories(${name} PUBLIC "${include_root}")
+  set(view "${CMAKE_BINARY_DIR}/rooms/${name}")
+  file(MAKE_DIRECTORY "${view}/${folder}")
+  file(
+    GLOB headers
+    RELATIVE "${CMAKE_SOURCE_DIR}"
+    CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/${folder}/*.h")
+  foreach(header IN LISTS headers)
+    file(CREATE_LINK "${CMAKE_SOURCE_DIR}/${header}" "${view}/${header}" SYMBOLIC)
+  endforeach()
+  target_include_directories(${name} PUBLIC "${view}")
   target_link_libraries(${name} PUBLIC lunavox_options ${ROOM_LINKS})
 endfunction()
