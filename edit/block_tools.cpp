@@ -36,7 +36,7 @@ std::optional<int> product(int velocity, int percent) {
 
 /// Octave 10 shows its last digit.
 std::string transposed_name(int note) {
-  return std::string(note_name(note % 12)) + plain_number(static_cast<long long>(note / 12)).back();
+  return std::string(note_name(note % 12)) + plain_number(note / 12).back();
 }
 
 }  // namespace
@@ -91,9 +91,7 @@ std::optional<int> BlockTools::ask_number(const Question& question, int maximum)
   if (answer.empty()) return std::nullopt;
   const double number = std::nearbyint(leading_number(answer));  // halves to even
   if (!(number >= 0 && number <= maximum)) {
-    dialogs_.error("You must enter a value between 0 and " +
-                       plain_number(static_cast<long long>(maximum)) + " !",
-                   "Error");
+    dialogs_.error("You must enter a value between 0 and " + plain_number(maximum) + " !", "Error");
     return std::nullopt;
   }
   return static_cast<int>(number);

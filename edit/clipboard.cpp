@@ -8,7 +8,7 @@ namespace {
 
 /// The last digit of a channel number's decimal text: the channel digit of channels 0..9.
 char last_digit(std::int16_t channel) {
-  return plain_number(static_cast<long long>(channel)).back();
+  return plain_number(channel).back();
 }
 
 }  // namespace

@@ -12,10 +12,6 @@ constexpr const char* kNo = "no";
 constexpr int kMinimumStartValue = 1;
 constexpr int kMaximumStartValue = 127;
 
-std::string value_text(std::int16_t value) {
-  return plain_number(static_cast<long long>(value));
-}
-
 /// Keeps the lines in view where they are while a curve is walked through: the cursor's way along
 /// it is none of the user's. Whoever plays a song may have the view follow it.
 class StayingView {
@@ -132,7 +128,7 @@ void Curves::fill(const Segment& segment, int effect, bool shown) {
     progress_.set_value(row - segment.first_row);
     const std::int16_t value = value_on(segment, row);
     song_.values.at(track, effect, row) = value;
-    if (shown) song_.tracks.set_text(row, effect_column_of(track), value_text(value));
+    if (shown) song_.tracks.set_text(row, effect_column_of(track), plain_number(value));
   }
 }
 
@@ -163,8 +159,8 @@ void Curves::show_value(int track, int row) {
   const int effect = song_.shown_effect.at(track);
   const bool key = song_.key_attributes.at(track, effect, row) != 0;
   song_.tracks.set_cell(row, effect_column_of(track),
-                        {value_text(song_.values.at(track, effect, row)), key ? kKeyValue : kBlack,
-                         kEffectCell, Alignment::kLeft});
+                        {plain_number(song_.values.at(track, effect, row)),
+                         key ? kKeyValue : kBlack, kEffectCell, Alignment::kLeft});
 }
 
 }  // namespace lunavox

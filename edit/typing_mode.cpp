@@ -118,7 +118,7 @@ void TypingMode::set_key(int value) {
   song_.tracks.set_text_colour(row, song_.tracks.column(), kKeyValue);
   if (row == 1) {
     song_.effects.set_text(effect, effects_column(track, Setting::kStartValue),
-                           plain_number(static_cast<long long>(value)));
+                           plain_number(value));
   }
 }
 

@@ -43,7 +43,7 @@ void Config::menuask_click() {
 }
 
 void Config::store_input_device(int device) {
-  write(kNoDevice + std::string(1, plain_number(static_cast<long long>(device)).back()));
+  write(kNoDevice + std::string(1, plain_number(device).back()));
 }
 
 void Config::write(const std::string& input_line) {

@@ -109,8 +109,7 @@ void SongFile::read_or_put_back(FieldReader& fields, double version) {
 
 bool SongFile::accept_version(double version) {
   if (version > kNewestVersion) {
-    dialogs_.message({"This file has been created with Lunavox " +
-                          plain_number(static_cast<long long>(shared_index_)) +
+    dialogs_.message({"This file has been created with Lunavox " + plain_number(shared_index_) +
                           " Please download a more recent version of Lunavox at " +
                           kDownloadAddress,
                       "", Icon::kNone, Buttons::kOk});

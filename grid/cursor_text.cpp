@@ -10,16 +10,13 @@ namespace {
 
 constexpr int kSemitones = 12;
 
-std::string number(int value) {
-  return plain_number(static_cast<long long>(value));
-}
-
 std::string note_description(const std::string& entry) {
   if (entry.empty()) return "empty";
   if (!is_note(entry)) return "note off";
   std::string name(note_name(shown_note(entry).note_index));
   std::erase(name, ' ');
-  return name + number(shown_note(entry).octave) + " velocity " + number(velocity_of(entry));
+  return name + plain_number(shown_note(entry).octave) + " velocity " +
+         plain_number(velocity_of(entry));
 }
 
 }  // namespace
@@ -28,7 +25,8 @@ std::string cursor_line_text(const Song& song) {
   if (song.tracks.row() < 1) return {};
   const int line = song.tracks.row() - 1;
   const int beat = line / std::max(song.number.value(), 1) + 1;
-  return "Line " + number(line) + " of " + number(song.last_row()) + "   Beat " + number(beat);
+  return "Line " + plain_number(line) + " of " + plain_number(song.last_row()) + "   Beat " +
+         plain_number(beat);
 }
 
 std::string cursor_cell_text(const Song& song) {
@@ -36,21 +34,21 @@ std::string cursor_cell_text(const Song& song) {
   const int track = track_of_column(song.tracks.column());
   const int sub_column = sub_column_of(song.tracks.column());
   if (row < 1 || song.tracks.column() < 1 || track > song.track_count) return {};
-  const std::string place = "Track " + number(track);
+  const std::string place = "Track " + plain_number(track);
   if (sub_column == 0) {
     const int effect = song.shown_effect.at(track);
     if (effect < kFirstEffect || effect > kLastEffect) return place;
     const bool typed = song.key_attributes.at(track, effect, row) != 0;
-    return place + " " + effect_name(effect) + ": " + number(song.values.at(track, effect, row)) +
-           (typed ? " (key)" : "");
+    return place + " " + effect_name(effect) + ": " +
+           plain_number(song.values.at(track, effect, row)) + (typed ? " (key)" : "");
   }
-  return place + " #" + number(sub_column) + ": " +
+  return place + " #" + plain_number(sub_column) + ": " +
          note_description(song.notes.at(track, sub_column, row));
 }
 
 std::string octave_text(int octaveshift) {
   const int octaves = octaveshift / kSemitones;
-  return std::string("Octave ") + (octaves > 0 ? "+" : "") + number(octaves);
+  return std::string("Octave ") + (octaves > 0 ? "+" : "") + plain_number(octaves);
 }
 
 }  // namespace lunavox

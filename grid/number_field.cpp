@@ -16,8 +16,7 @@ int NumberField::value() const {
 }
 
 std::string NumberField::message() const {
-  return "Invalid value (" + plain_number(static_cast<long long>(minimum_)) + "-" +
-         plain_number(static_cast<long long>(maximum_)) + ")";
+  return "Invalid value (" + plain_number(minimum_) + "-" + plain_number(maximum_) + ")";
 }
 
 bool NumberField::enter(const std::string& text, Dialogs& dialogs) {
@@ -26,7 +25,7 @@ bool NumberField::enter(const std::string& text, Dialogs& dialogs) {
     dialogs.error(message());
     return false;
   }
-  text_ = plain_number(static_cast<long long>(round_half_even(entered)));
+  text_ = plain_number(round_half_even(entered));
   return true;
 }
 

@@ -39,7 +39,7 @@ std::string print_number(long long value) {
   return value < 0 ? std::to_string(value) : " " + std::to_string(value);
 }
 
-std::string plain_number(long long value) {
+std::string plain_number(int value) {
   return std::to_string(value);
 }
 

@@ -12,7 +12,7 @@ namespace lunavox {
 std::string print_number(long long value);
 
 /// Plain decimal text, without the leading blank.
-std::string plain_number(long long value);
+std::string plain_number(int value);
 
 /// Plain decimal text of a number that may have a fraction: 64 as "64", 64.5 as "64.5".
 std::string plain_number(double value);

@@ -43,7 +43,7 @@ int channel_of_track(int track) {
 }
 
 std::string ShownNote::text() const {
-  return std::string(lunavox::note_name(note_index)) + plain_number(static_cast<long long>(octave));
+  return std::string(lunavox::note_name(note_index)) + plain_number(octave);
 }
 
 ShownNote shown_note(std::string_view entry) {

@@ -19,7 +19,7 @@ double divide(double dividend, double divisor) {
 std::string duration_text(double lines, double lines_per_beat, double beats_per_minute) {
   const double seconds = divide(lines, lines_per_beat) * divide(60, beats_per_minute);
   const auto minutes = round_half_even(std::floor(seconds / 60));
-  const std::string rest = plain_number(static_cast<long long>(round_half_even(seconds) % 60));
+  const std::string rest = plain_number(round_half_even(seconds) % 60);
   return print_number(minutes) + ":" + (rest.size() < 2 ? "0" : "") + rest;
 }
 

@@ -44,9 +44,9 @@ TEST(RuntimeNumbers, LoneSignsAndPointsAreNoNumbers) {
 }
 
 TEST(RuntimeNumbers, PlainTextHasNoLeadingBlank) {
-  EXPECT_EQ(plain_number(0LL), "0");
-  EXPECT_EQ(plain_number(127LL), "127");
-  EXPECT_EQ(plain_number(-1LL), "-1");
+  EXPECT_EQ(plain_number(0), "0");
+  EXPECT_EQ(plain_number(127), "127");
+  EXPECT_EQ(plain_number(-1), "-1");
   EXPECT_EQ(plain_number(64.0), "64");
   EXPECT_EQ(plain_number(64.5), "64.5");
 }
