@@ -39,8 +39,8 @@ void Curves::effects_click(int column, int row) {
   if (column < 1 || row < 1) return;
   if (hooks_.finish_typing) hooks_.finish_typing();
   song_.effects.set_cursor(row, column);
-  const int track = (column + 2) / kSettingsPerTrack;
-  const auto setting = static_cast<Setting>((column - 1) % kSettingsPerTrack + 1);
+  const int track = track_of_effects_column(column);
+  const Setting setting = setting_of_effects_column(column);
   song_.tracks.set_column(effect_column_of(track));
   if (setting == Setting::kActive) switch_active(track, column, row);
   // Whoever listens may switch a curve on and off, but not bend it.

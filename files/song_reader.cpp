@@ -21,10 +21,6 @@ constexpr int kNoItem = -1;
 constexpr std::int16_t kOldVariation = 1;
 constexpr std::int16_t kOldAttackAndRelease = 40;
 
-Setting setting_of_column(int effects_column) {
-  return static_cast<Setting>((effects_column - 1) % kSettingsPerTrack + 1);
-}
-
 int item_or_none(int index, XgList list) {
   return index >= 0 && index < static_cast<int>(xg_names(list).size()) ? index : kNoItem;
 }
@@ -94,14 +90,14 @@ void SongReader::read_effects_column(int column) {
   if (version_ >= kFirstWithPitch) {
     write_setting(column, kPitch, fields_.text());
   } else {
-    write_setting(column, kPitch, setting_of_column(column) == Setting::kStartValue ? "64" : "no");
+    write_setting(column, kPitch, setting_of_effects_column(column) == Setting::kStartValue ? "64" : "no");
   }
 }
 
 void SongReader::write_setting(int column, int effect, std::string_view text) {
   song_.effects.set_text(effect, column, text);
-  if (setting_of_column(column) != Setting::kActive) return;
-  const int track = column / kSettingsPerTrack + 1;
+  if (setting_of_effects_column(column) != Setting::kActive) return;
+  const int track = track_of_effects_column(column);
   song_.active.at(track)[static_cast<std::size_t>(effect)] = trimmed(text) == "yes";
 }
 

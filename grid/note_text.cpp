@@ -47,6 +47,15 @@ std::string_view note_name(int note_index) {
   return kNames[static_cast<std::size_t>(note_index)];
 }
 
+std::string ShownNote::text() const {
+  return std::string(note_name(note_index)) + plain_number(octave);
+}
+
+ShownNote shown_note(std::string_view entry) {
+  const int note = entry.size() > 2 ? static_cast<int>(hex_value(entry.substr(2, 2))) : 0;
+  return {note / 12, note % 12};
+}
+
 Colour velocity_colour(int velocity) {
   // Wide enough for the velocity that a damaged file's overlong text gives.
   const std::int64_t doubled = 2 * static_cast<std::int64_t>(velocity);

@@ -30,6 +30,18 @@ bool is_note(std::string_view entry);
 /// "C  ", "C#" ... "B  " for note index 0..11: natural notes are padded to three characters.
 std::string_view note_name(int note_index);
 
+/// How a note entry reads on the screen.
+struct ShownNote {
+  int octave = 0;
+  int note_index = 0;  ///< 0..11 from C
+  /// Name and octave: "C  4", "C#4".
+  std::string text() const;
+};
+
+/// Reads the note of an entry for showing. Characters 3 and 4 of the entry are taken as its note
+/// number, which is right for velocities of 16 and more and taken as it comes for softer notes.
+ShownNote shown_note(std::string_view entry);
+
 /// The colour of a note cell's text: blue for soft notes, green in the middle, red for loud ones.
 /// With d = 2 * velocity: red d, green 256 - 2 * |127 - d|, blue 256 - d, each at most 255. A
 /// negative component (velocities above 127 come from damaged files) counts as 0.

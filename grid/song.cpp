@@ -1,55 +1,10 @@
 #include "grid/song.h"
 
 #include "grid/note_text.h"
-#include "grid/runtime_error.h"
-#include "grid/runtime_numbers.h"
 
 #include <algorithm>
 
 namespace lunavox {
-
-const std::string& effect_name(int effect) {
-  static const std::array<std::string, kEffectSlots> kNames = {
-      "Effect", "Instrument", "Volume",    "Pan",    "Modulation", "Brightness",
-      "Reverb", "Chorus",     "Variation", "Attack", "Release",    "Pitch"};
-  if (effect < kFirstEffect || effect > kLastEffect) {
-    throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
-  }
-  return kNames[static_cast<std::size_t>(effect)];
-}
-
-int track_of_column(int column) {
-  return (column - 1) / kColumnsPerTrack + 1;
-}
-
-int sub_column_of(int column) {
-  return column % kColumnsPerTrack;
-}
-
-int first_column_of(int track) {
-  return kColumnsPerTrack * (track - 1) + 1;
-}
-
-int effect_column_of(int track) {
-  return kColumnsPerTrack * track;
-}
-
-int effects_column(int track, Setting setting) {
-  return kSettingsPerTrack * (track - 1) + static_cast<int>(setting);
-}
-
-int channel_of_track(int track) {
-  return track == kDrumTrack ? 9 : track - 2;
-}
-
-std::string ShownNote::text() const {
-  return std::string(lunavox::note_name(note_index)) + plain_number(octave);
-}
-
-ShownNote shown_note(std::string_view entry) {
-  const int note = entry.size() > 2 ? static_cast<int>(hex_value(entry.substr(2, 2))) : 0;
-  return {note / 12, note % 12};
-}
 
 Song::Song() : tracks(3, 1), channels(1, 1), effects(kEffectSlots, 1) {
   resize_stores();

@@ -1,63 +1,18 @@
 #pragma once
 
 #include "grid/cell_grid.h"
+#include "grid/effect.h"
 #include "grid/line_table.h"
 #include "grid/number_field.h"
 #include "grid/property.h"
+#include "grid/track_columns.h"
 
 #include <array>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace lunavox {
-
-/// The eleven controller curves of a track, by their row in the `effects` grid.
-enum Effect : int {
-  kInstrument = 1,  ///< not a curve: the voice's program number on the first line
-  kVolume = 2,
-  kPan = 3,
-  kModulation = 4,
-  kBrightness = 5,
-  kReverb = 6,
-  kChorus = 7,
-  kVariation = 8,
-  kAttack = 9,
-  kRelease = 10,
-  kPitch = 11,
-};
-inline constexpr int kFirstEffect = kInstrument;
-inline constexpr int kFirstCurve = kVolume;
-inline constexpr int kLastEffect = kPitch;
-
-/// Tracks 1..10; track 1 is the drum track.
-inline constexpr int kMaxTracks = 10;
-inline constexpr int kDrumTrack = 1;
-/// Columns of one track in `tracks` (eight note columns and the effect column) and in `effects`
-/// ("Active", "Start value", "Show").
-inline constexpr int kColumnsPerTrack = 9;
-inline constexpr int kSettingsPerTrack = 3;
-inline constexpr int kNoteColumns = 8;
-
-/// A setting of a track in the `effects` grid, by its place among the track's three columns.
-enum class Setting { kActive = 1, kStartValue = 2, kShow = 3 };
-
-/// "Instrument", "Volume", ... "Pitch" for effect 1..11.
-const std::string& effect_name(int effect);
-
-/// The track whose columns hold a `tracks` column; column 0 counts as track 1.
-int track_of_column(int column);
-/// 1..8 for a note column, 0 for an effect column (and for column 0).
-int sub_column_of(int column);
-/// The first note column of a track in `tracks`.
-int first_column_of(int track);
-/// The effect column of a track in `tracks`.
-int effect_column_of(int track);
-/// The column of a track's setting in `effects`.
-int effects_column(int track, Setting setting);
-/// Channel index of a track: 9 for the drum track, otherwise the track number minus 2.
-int channel_of_track(int track);
 
 /// A named line.
 struct Bookmark {
@@ -66,18 +21,6 @@ struct Bookmark {
 
   bool operator==(const Bookmark&) const = default;
 };
-
-/// How a note entry reads on the screen.
-struct ShownNote {
-  int octave = 0;
-  int note_index = 0;  ///< 0..11 from C
-  /// Name and octave: "C  4", "C#4".
-  std::string text() const;
-};
-
-/// Reads the note of an entry for showing. Characters 3 and 4 of the entry are taken as its note
-/// number, which is right for velocities of 16 and more and taken as it comes for softer notes.
-ShownNote shown_note(std::string_view entry);
 
 /// The song: the three grids and the stores behind them. A value, so that it can be copied,
 /// compared and swapped; copies carry no observers or listeners.

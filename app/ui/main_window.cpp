@@ -3,7 +3,7 @@
 #include "app/ui/panel_strip.h"
 #include "app/ui/song_views.h"
 #include "edit/ui/note_keyboard.h"
-#include "grid/cursor_text.h"
+#include "grid/status_text.h"
 #include "grid/ui/follow.h"
 #include "grid/ui/theme.h"
 #include "midi/transport.h"

@@ -57,6 +57,27 @@ TEST(NoteText, NaturalNoteNamesArePaddedToThreeCharactersAndSharpsAreNot) {
   EXPECT_THROW(note_name(12), RuntimeError);
 }
 
+TEST(ShownNote, TakesTheThirdAndFourthCharacterAsTheNote) {
+  EXPECT_EQ(shown_note("643C90").text(), "C  5");
+  EXPECT_EQ(shown_note("643D90").text(), "C#5");
+  EXPECT_EQ(shown_note("7F7F90").text(), "G  10");
+  EXPECT_EQ(shown_note("100090").text(), "C  0");
+}
+
+TEST(ShownNote, ASoftNoteIsReadFromItsSecondDigitAndTheStatus) {
+  // A3C90 is note 60 at velocity 10; characters 3 and 4 are C9, note 201.
+  const ShownNote note = shown_note("A3C90");
+  EXPECT_EQ(note.octave, 16);
+  EXPECT_EQ(note.note_index, 9);
+  EXPECT_EQ(note.text(), "A  16");
+}
+
+TEST(ShownNote, EntriesWithoutANoteReadAsNoteZero) {
+  EXPECT_EQ(shown_note("").text(), "C  0");
+  EXPECT_EQ(shown_note("64").text(), "C  0");
+  EXPECT_EQ(shown_note("stop").text(), "C  0");
+}
+
 TEST(NoteText, SoftNotesAreBlueMiddleOnesGreenAndLoudOnesRed) {
   EXPECT_EQ(velocity_colour(1), (Colour{2, 6, 254}));
   EXPECT_EQ(velocity_colour(10), (Colour{20, 42, 236}));

@@ -31,51 +31,6 @@ void expect_subscript_error(Call call) {
   }
 }
 
-TEST(SongColumns, NineColumnsMakeATrackAndTheNinthIsItsEffectColumn) {
-  EXPECT_EQ(track_of_column(1), 1);
-  EXPECT_EQ(track_of_column(8), 1);
-  EXPECT_EQ(track_of_column(9), 1);
-  EXPECT_EQ(track_of_column(10), 2);
-  EXPECT_EQ(track_of_column(90), 10);
-  EXPECT_EQ(sub_column_of(1), 1);
-  EXPECT_EQ(sub_column_of(8), 8);
-  EXPECT_EQ(sub_column_of(9), 0);
-  EXPECT_EQ(sub_column_of(10), 1);
-  EXPECT_EQ(sub_column_of(90), 0);
-}
-
-TEST(SongColumns, TheLineNumberColumnCountsAsTrackOneAndAnEffectColumn) {
-  EXPECT_EQ(track_of_column(0), 1);
-  EXPECT_EQ(sub_column_of(0), 0);
-}
-
-TEST(SongColumns, TracksKnowTheirColumns) {
-  EXPECT_EQ(first_column_of(1), 1);
-  EXPECT_EQ(effect_column_of(1), 9);
-  EXPECT_EQ(first_column_of(10), 82);
-  EXPECT_EQ(effect_column_of(10), 90);
-  EXPECT_EQ(effects_column(1, Setting::kActive), 1);
-  EXPECT_EQ(effects_column(1, Setting::kStartValue), 2);
-  EXPECT_EQ(effects_column(1, Setting::kShow), 3);
-  EXPECT_EQ(effects_column(4, Setting::kActive), 10);
-  EXPECT_EQ(effects_column(10, Setting::kShow), 30);
-}
-
-TEST(SongChannels, TheDrumTrackPlaysOnChannelTenAndTheOthersOnOneToNine) {
-  EXPECT_EQ(channel_of_track(1), 9);
-  EXPECT_EQ(channel_of_track(2), 0);
-  EXPECT_EQ(channel_of_track(10), 8);
-}
-
-TEST(SongEffects, ElevenCurvesHaveNames) {
-  const char* expected[] = {"Instrument", "Volume",  "Pan",    "Modulation",
-                            "Brightness", "Reverb",  "Chorus", "Variation",
-                            "Attack",     "Release", "Pitch"};
-  for (int e = 1; e <= 11; ++e) EXPECT_EQ(effect_name(e), expected[e - 1]);
-  expect_subscript_error([] { effect_name(0); });
-  expect_subscript_error([] { effect_name(12); });
-}
-
 TEST(Song, StartsWithItsCaptionsAndNoTrack) {
   const Song song;
   EXPECT_EQ(song.track_count, 0);
@@ -228,27 +183,6 @@ TEST(Calculnote, WorksOnTheTrackThatActualtrackLeftCurrent) {
   song.tracks.set_column(10);
   song.calculnote();
   EXPECT_EQ(song.note_name, "C  ");
-}
-
-TEST(ShownNote, TakesTheThirdAndFourthCharacterAsTheNote) {
-  EXPECT_EQ(shown_note("643C90").text(), "C  5");
-  EXPECT_EQ(shown_note("643D90").text(), "C#5");
-  EXPECT_EQ(shown_note("7F7F90").text(), "G  10");
-  EXPECT_EQ(shown_note("100090").text(), "C  0");
-}
-
-TEST(ShownNote, ASoftNoteIsReadFromItsSecondDigitAndTheStatus) {
-  // A3C90 is note 60 at velocity 10; characters 3 and 4 are C9, note 201.
-  const ShownNote note = shown_note("A3C90");
-  EXPECT_EQ(note.octave, 16);
-  EXPECT_EQ(note.note_index, 9);
-  EXPECT_EQ(note.text(), "A  16");
-}
-
-TEST(ShownNote, EntriesWithoutANoteReadAsNoteZero) {
-  EXPECT_EQ(shown_note("").text(), "C  0");
-  EXPECT_EQ(shown_note("64").text(), "C  0");
-  EXPECT_EQ(shown_note("stop").text(), "C  0");
 }
 
 TEST(ShowEntry, ANoteShowsItsNameAndOctaveInTheColourOfItsVelocity) {

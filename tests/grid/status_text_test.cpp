@@ -1,4 +1,4 @@
-#include "grid/cursor_text.h"
+#include "grid/status_text.h"
 
 #include "tests/support/window_song.h"
 

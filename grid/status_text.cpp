@@ -1,4 +1,4 @@
-#include "grid/cursor_text.h"
+#include "grid/status_text.h"
 
 #include "grid/note_text.h"
 #include "grid/runtime_numbers.h"
