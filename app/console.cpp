@@ -19,7 +19,7 @@ Answer ConsoleDialogs::message(const Message& message) {
   // What follows from the first fault is no news.
   if (!told_) errors_ << "lunavox: " << on_one_line(message.text) << '\n';
   told_ = true;
-  return message.buttons == Buttons::kOk ? Answer::kOk : Answer::kCancel;
+  return NoDialogs::message(message);
 }
 
 }  // namespace lunavox

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "grid/dialogs.h"
-#include "grid/progress.h"
 #include "midi/count_in_window.h"
 
 #include <ostream>
@@ -11,14 +10,11 @@ namespace lunavox {
 
 /// Stands in for the dialogs in a run without a window: what is told goes to a stream, one line
 /// each, and nobody answers a question.
-class ConsoleDialogs : public Dialogs {
+class ConsoleDialogs : public NoDialogs {
  public:
   explicit ConsoleDialogs(std::ostream& errors) : errors_(errors) {}
 
   Answer message(const Message& message) override;
-  std::string input(const Question&) override { return {}; }
-  std::string open_file(const FileQuestion&) override { return {}; }
-  std::string save_file(const FileQuestion&) override { return {}; }
 
   /// True once anything has been told: without a window every message is a refusal.
   bool told() const { return told_; }
@@ -26,15 +22,6 @@ class ConsoleDialogs : public Dialogs {
  private:
   std::ostream& errors_;
   bool told_ = false;
-};
-
-/// Shows no progress: for runs without a window.
-class NoProgress : public ProgressBox {
- public:
-  void show(const std::string&, int) override {}
-  void set_caption(const std::string&) override {}
-  void set_value(int) override {}
-  void hide() override {}
 };
 
 /// No count-in is ever run without a window.

@@ -5,6 +5,7 @@
 #include "app/logged_outputs.h"
 #include "app/song_player.h"
 #include "app/start_up.h"
+#include "grid/progress.h"
 #include "midi/device_selection.h"
 #include "midi/ports/audio_file.h"
 #include "midi/ports/null_device.h"

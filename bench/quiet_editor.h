@@ -10,13 +10,10 @@ namespace lunavox::bench {
 
 inline constexpr int kMostLines = 3000;
 
-/// Gives every input box the same answer, and takes every message.
-class OneAnswer : public Dialogs {
+/// Gives every input box the same answer.
+class OneAnswer : public NoDialogs {
  public:
-  Answer message(const Message&) override { return Answer::kOk; }
   std::string input(const Question&) override { return answer; }
-  std::string open_file(const FileQuestion&) override { return {}; }
-  std::string save_file(const FileQuestion&) override { return {}; }
 
   std::string answer;
 };

@@ -55,4 +55,15 @@ class Dialogs {
   }
 };
 
+/// Nobody is told anything and nobody answers: for work without a window.
+class NoDialogs : public Dialogs {
+ public:
+  Answer message(const Message& message) override {
+    return message.buttons == Buttons::kOk ? Answer::kOk : Answer::kCancel;
+  }
+  std::string input(const Question&) override { return {}; }
+  std::string open_file(const FileQuestion&) override { return {}; }
+  std::string save_file(const FileQuestion&) override { return {}; }
+};
+
 }  // namespace lunavox

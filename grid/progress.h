@@ -18,8 +18,18 @@ class ProgressBox {
   virtual void hide() = 0;
 };
 
+/// Shows no progress: for work without a window.
+class NoProgress : public ProgressBox {
+ public:
+  void show(const std::string&, int) override {}
+  void set_caption(const std::string&) override {}
+  void set_value(int) override {}
+  void hide() override {}
+};
+
 /// Shows the progress box and keeps a grid from redrawing for the length of a scope; an operation
-/// that fails on its way leaves no box standing. Scopes nest: the inner one ends the box's show.
+/// that fails on its way leaves no box standing. Where scopes nest, the end of
+/// the inner one ends the box's show and draws the grid.
 class LongOperation {
  public:
   LongOperation(ProgressBox& box, CellGrid& grid, const std::string& caption, int maximum)
