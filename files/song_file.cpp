@@ -54,6 +54,21 @@ class SongBefore {
   Song rest_;
 };
 
+/// Fills a track's effect column with the values of the curve that it shows: key values in red,
+/// the others in black.
+void show_effect_column(Song& song, int track) {
+  const int shown = song.shown_effect.at(track);
+  const int column = effect_column_of(track);
+  for (int row = 1; row <= song.last_row(); ++row) {
+    const bool key = song.key_attributes.at(track, shown, row) != 0;
+    Cell cell = song.tracks.cell(row, column);
+    cell.text = print_number(song.values.at(track, shown, row));
+    cell.text_colour = key ? kKeyValue : kBlack;
+    cell.background = kEffectCell;
+    song.tracks.set_cell(row, column, cell);
+  }
+}
+
 }  // namespace
 
 SongFile::SongFile(Song& song, Flags& flags, Tracks& tracks, SongLength& length, Dialogs& dialogs,

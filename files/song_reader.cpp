@@ -1,7 +1,6 @@
 #include "files/song_reader.h"
 
 #include "grid/runtime_error.h"
-#include "grid/runtime_numbers.h"
 #include "midi/xg_effects.h"
 
 #include <algorithm>
@@ -174,19 +173,6 @@ void SongReader::read_xg_lists() {
   song_.reverb = item_or_none(fields_.integer(), XgList::kReverb);
   song_.chorus = item_or_none(fields_.integer(), XgList::kChorus);
   song_.variation = item_or_none(fields_.integer(), XgList::kVariation);
-}
-
-void show_effect_column(Song& song, int track) {
-  const int shown = song.shown_effect.at(track);
-  const int column = effect_column_of(track);
-  for (int row = 1; row <= song.last_row(); ++row) {
-    const bool key = song.key_attributes.at(track, shown, row) != 0;
-    Cell cell = song.tracks.cell(row, column);
-    cell.text = print_number(song.values.at(track, shown, row));
-    cell.text_colour = key ? kKeyValue : kBlack;
-    cell.background = kEffectCell;
-    song.tracks.set_cell(row, column, cell);
-  }
 }
 
 }  // namespace lunavox

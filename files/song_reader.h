@@ -56,8 +56,4 @@ class SongReader {
   SongStores& old_;
 };
 
-/// Fills a track's effect column with the values of the curve that it shows: key values in red,
-/// the others in black.
-void show_effect_column(Song& song, int track);
-
 }  // namespace lunavox

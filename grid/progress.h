@@ -28,8 +28,8 @@ class NoProgress : public ProgressBox {
 };
 
 /// Shows the progress box and keeps a grid from redrawing for the length of a scope; an operation
-/// that fails on its way leaves no box standing. Where scopes nest, the end of
-/// the inner one ends the box's show and draws the grid.
+/// that fails on its way leaves no box standing. Where scopes nest, the end of the inner one ends
+/// the box's show and draws the grid.
 class LongOperation {
  public:
   LongOperation(ProgressBox& box, CellGrid& grid, const std::string& caption, int maximum)
