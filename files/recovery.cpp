@@ -1,8 +1,8 @@
 #include "files/recovery.h"
 
 #include "files/file_bytes.h"
+#include "files/recovery_text.h"
 #include "grid/runtime_error.h"
-#include "grid/runtime_numbers.h"
 
 #include <algorithm>
 #include <system_error>
@@ -29,17 +29,6 @@ void remove_quietly(const fs::path& file) {
 bool is_there(const fs::path& file) {
   std::error_code none;
   return fs::exists(file, none);
-}
-
-/// The name that a field of a recovery file stands for.
-std::string name_of_field(std::string_view field) {
-  std::string name;
-  while (!field.empty()) {
-    const bool written_as_number = field.front() == '%' && field.size() >= 3;
-    name += written_as_number ? static_cast<char>(hex_value(field.substr(1, 2))) : field.front();
-    field.remove_prefix(written_as_number ? 3 : 1);
-  }
-  return name;
 }
 
 }  // namespace
@@ -184,7 +173,7 @@ bool RecoveryFile::restore(OrphanedSong& orphan) {
     const std::string bytes = read_file(orphan.file());
     FieldReader fields(bytes);
     if (!song_file_.read(fields)) return false;
-    song_file_.current_name = fields.at_end() ? std::string() : name_of_field(fields.text());
+    song_file_.current_name = recovered_name(fields);
   } catch (const RuntimeError&) {
     return false;
   }

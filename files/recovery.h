@@ -49,8 +49,7 @@ class RecoveryFile : private CellGridObserver {
   static constexpr std::uint32_t kDelayMs = 3000;
 
   /// @param state_folder  created when needed; where that fails, the song is not kept, and
-  /// problem()
-  ///                      says why
+  ///                      problem() says why
   RecoveryFile(Song& song, Flags& flags, SongFile& song_file, Clock& clock,
                std::filesystem::path state_folder);
   /// Leaves the file: only end() is an end in order.

@@ -1,35 +1,12 @@
 #include "files/recovery_writer.h"
 
 #include "files/atomic_file.h"
-#include "files/song_writer.h"
+#include "files/recovery_text.h"
 
 #include <exception>
 #include <utility>
 
 namespace lunavox {
-namespace {
-
-/// A name as one field of a line: what would end or change the field is written as %XX.
-std::string name_field(const std::string& name) {
-  static constexpr char kDigits[] = "0123456789ABCDEF";
-  std::string field;
-  for (const char c : name) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte > ' ' && c != ',' && c != '"' && c != '%') {
-      field += c;
-    } else {
-      field += {'%', kDigits[byte / 16], kDigits[byte % 16]};
-    }
-  }
-  return field;
-}
-
-}  // namespace
-
-std::string recovery_text(const Song& song, const std::string& name) {
-  // Texts are guarded: what the user typed must come back, whatever it holds.
-  return song_text(song, TextGuard::kQuotes) + name_field(name) + "\r\n";
-}
 
 void write_recovery_file(const std::filesystem::path& file, const std::string& text) {
   AtomicFile output(file);

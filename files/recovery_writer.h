@@ -11,10 +11,6 @@
 
 namespace lunavox {
 
-/// The bytes of a recovery file: the song as in a song file, then the name of the file that it was
-/// opened from or saved to.
-std::string recovery_text(const Song& song, const std::string& name);
-
 /// Writes recovery files on a thread of its own, so that neither composing nor a slow disk holds up
 /// the window. Each file replaces the one before.
 class RecoveryWriter {

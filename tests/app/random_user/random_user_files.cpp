@@ -1,3 +1,4 @@
+#include "files/recovery_text.h"
 #include "files/song_writer.h"
 #include "grid/runtime_error.h"
 #include "random_user.h"
@@ -12,7 +13,7 @@ constexpr const char* kSongName = "tune.lvx";
 constexpr const char* kDamagedName = "damaged.lvx";
 
 std::string text_of(const Song& song) {
-  return song_text(song, TextGuard::kNone, {});
+  return song_text(song);
 }
 
 /// A song file with something wrong: cut short, or a line changed, missing or twice there.
@@ -148,7 +149,7 @@ void RandomUser::lose_program() {
 
 std::string RandomUser::compare_reopened() {
   Editor& e = bench_.editor;
-  const std::string text = song_text(e.song, TextGuard::kNone, {});
+  const std::string text = text_of(e.song);
   EditorBench other;
   other.start();
   other.editor.song_file.current_name = other.folder.write("again.lvx", text);
