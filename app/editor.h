@@ -8,6 +8,8 @@
 #include "edit/grid_events.h"
 #include "edit/note_keys.h"
 #include "edit/typing_mode.h"
+#include "files/drum_choice.h"
+#include "files/drum_kits.h"
 #include "files/midi_export.h"
 #include "files/song_file.h"
 #include "files/voice_banks.h"

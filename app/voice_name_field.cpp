@@ -1,5 +1,7 @@
 #include "app/voice_name_field.h"
 
+#include "files/voice_name.h"
+
 namespace lunavox {
 
 VoiceNameField::VoiceNameField(Song& song, const VoiceBanks& voices, const DrumKits& kits)

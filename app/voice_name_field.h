@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/drum_kits.h"
 #include "files/voice_banks.h"
 #include "grid/cell_grid.h"
 #include "grid/property.h"

@@ -4,8 +4,6 @@
 #include "files/file_bytes.h"
 #include "grid/runtime_error.h"
 
-#include <algorithm>
-
 namespace lunavox {
 namespace {
 
@@ -94,39 +92,6 @@ int VoiceBanks::column_of(int program, int bank_lsb) const {
     if (has_voice(program, column) && bank(column, program) == bank_lsb) return column;
   }
   return -1;
-}
-
-DrumKits DrumKits::read(const std::filesystem::path& file) {
-  return parse(read_file(file));
-}
-
-DrumKits DrumKits::parse(std::string_view bytes) {
-  DrumKits kits;
-  FieldReader fields(bytes);
-  for (int i = 0; i < kKits; ++i) {
-    std::string name(fields.text());
-    kits.kits_.push_back({std::move(name), fields.short_integer()});
-  }
-  return kits;
-}
-
-int DrumKits::index_of(int program) const {
-  const auto found = std::find_if(kits_.begin(), kits_.end(),
-                                  [&](const DrumKit& kit) { return kit.program == program; });
-  return found == kits_.end() ? -1 : static_cast<int>(found - kits_.begin());
-}
-
-std::string voice_name_of(const Song& song, int track, const VoiceBanks& voices,
-                          const DrumKits& kits) {
-  const int program = song.values.at(track, kInstrument, 1);
-  if (track == kDrumTrack) {
-    const int kit = kits.index_of(program);
-    if (kit >= 0) return kits.kits()[static_cast<std::size_t>(kit)].name;
-  } else {
-    const int column = voices.column_of(program, song.bank.at(track));
-    if (column >= 0) return voices.name(program, column);
-  }
-  return song.effects.text(kInstrument, effects_column(track, Setting::kStartValue));
 }
 
 }  // namespace lunavox

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "grid/song.h"
-
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -52,36 +50,5 @@ class VoiceBanks {
   std::vector<Names> names_;
   std::array<Banks, kBankColumns> banks_{};
 };
-
-/// A kit of the drum track.
-struct DrumKit {
-  std::string name;
-  std::int16_t program = 0;
-
-  bool operator==(const DrumKit&) const = default;
-};
-
-/// The nine drum kits of "drumbank.ini", in the order of the list `drumlist`.
-class DrumKits {
- public:
-  static constexpr int kKits = 9;
-
-  /// Reads nine records name, program; what follows them is not read.
-  /// @throws RuntimeError for a missing file or fewer records
-  static DrumKits read(const std::filesystem::path& file);
-  static DrumKits parse(std::string_view bytes);
-
-  const std::vector<DrumKit>& kits() const { return kits_; }
-  /// The place in the list of the kit with a program number; none is -1.
-  int index_of(int program) const;
-
- private:
-  std::vector<DrumKit> kits_;
-};
-
-/// The name of a track's voice or drum kit, by its bank and program. A voice that the bank files do
-/// not list has the name that the song gives it.
-std::string voice_name_of(const Song& song, int track, const VoiceBanks& voices,
-                          const DrumKits& kits);
 
 }  // namespace lunavox

@@ -23,15 +23,6 @@ std::uint32_t note_on(int note, int velocity) {
          0x90U | channel_nibble(kPreviewChannel);
 }
 
-/// Makes a voice the current track's and sends it.
-void take_voice(VoiceDesk& desk, const std::string& name, std::int16_t program) {
-  Song& song = desk.song;
-  const int track = song.current_track;
-  desk.voice_name = name;
-  song.effects.set_text(kInstrument, effects_column(track, Setting::kStartValue), name);
-  song.values.at(track, kInstrument, 1) = program;
-}
-
 }  // namespace
 
 VoiceChoice::VoiceChoice(const VoiceDesk& desk, const VoiceBanks& banks)
@@ -78,28 +69,6 @@ bool VoiceChoice::instruok_click(VoiceCell cell) {
   take_voice(desk_, banks_.name(cell.program, cell.column),
              static_cast<std::int16_t>(cell.program));
   desk_.song.bank.at(desk_.song.current_track) = banks_.bank(cell.column, cell.program);
-  starteffect(desk_.song, desk_.port);
-  return true;
-}
-
-int DrumChoice::current_kit() const {
-  return kits_.index_of(desk_.song.values.at(kDrumTrack, kInstrument, 1));
-}
-
-bool DrumChoice::drumok_click(int index) {
-  if (!choose(index)) return false;
-  desk_.flags.modified = true;
-  return true;
-}
-
-bool DrumChoice::drumlist_dblclick(int index) {
-  return choose(index);
-}
-
-bool DrumChoice::choose(int index) {
-  if (index < 0 || index >= static_cast<int>(kits_.kits().size())) return false;
-  const DrumKit& kit = kits_.kits()[static_cast<std::size_t>(index)];
-  take_voice(desk_, kit.name, kit.program);
   starteffect(desk_.song, desk_.port);
   return true;
 }

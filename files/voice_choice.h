@@ -1,28 +1,15 @@
 #pragma once
 
 #include "files/voice_banks.h"
-#include "grid/dialogs.h"
-#include "grid/flags.h"
+#include "files/voice_desk.h"
+#include "grid/colour.h"
 #include "grid/number_field.h"
 #include "grid/property.h"
-#include "grid/song.h"
-#include "midi/output_port.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 
 namespace lunavox {
-
-/// What choosing a voice or a drum kit works on.
-struct VoiceDesk {
-  Song& song;
-  Flags& flags;
-  OutputPort& port;
-  Dialogs& dialogs;
-  /// The main window's voice name field.
-  Property<std::string>& voice_name;
-};
 
 /// A cell of the voice grid.
 struct VoiceCell {
@@ -67,29 +54,6 @@ class VoiceChoice {
   VoiceDesk desk_;
   const VoiceBanks& banks_;
   std::optional<int> sounding_note_;
-};
-
-/// The drum kit dialog `Form4`: chooses the kit of the current track, which is the drum track.
-class DrumChoice {
- public:
-  DrumChoice(const VoiceDesk& desk, const DrumKits& kits) : desk_(desk), kits_(kits) {}
-
-  const DrumKits& kits() const { return kits_; }
-
-  /// The place of the drum track's kit in the list, -1 for one that the list does not have.
-  int current_kit() const;
-
-  /// OK with an entry of `drumlist` selected, -1 for none.
-  /// @return true when the kit is taken and the dialog is to hide
-  bool drumok_click(int index);
-  /// As drumok_click, but a kit that is only tried out this way does not count as an edit.
-  bool drumlist_dblclick(int index);
-
- private:
-  bool choose(int index);
-
-  VoiceDesk desk_;
-  const DrumKits& kits_;
 };
 
 }  // namespace lunavox

@@ -1,3 +1,4 @@
+#include "files/drum_kits.h"
 #include "files/voice_banks.h"
 #include "fuzz/check.h"
 #include "grid/runtime_error.h"

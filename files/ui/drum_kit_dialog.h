@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/voice_choice.h"
+#include "files/drum_choice.h"
 
 #include <QDialog>
 

@@ -3,6 +3,7 @@
 // message), or the number of a runtime error.
 
 #include "files/config.h"
+#include "files/drum_kits.h"
 #include "files/song_writer.h"
 #include "files/voice_banks.h"
 #include "grid/runtime_error.h"

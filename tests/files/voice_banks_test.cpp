@@ -1,7 +1,9 @@
 #include "files/voice_banks.h"
 
 #include "grid/runtime_error.h"
-#include "tests/support/song_bench.h"
+#include "tests/support/temp_folder.h"
+
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -102,7 +104,6 @@ TEST(VoiceBanks, ANumberThatDoesNotFitOverflows) {
 TEST(VoiceBanks, AMissingFileIsNotFound) {
   const test::TempFolder folder;
   EXPECT_THROW(VoiceBanks::read(folder.file("instrubank.ini")), RuntimeError);
-  EXPECT_THROW(DrumKits::read(folder.file("drumbank.ini")), RuntimeError);
 }
 
 TEST(VoiceBanks, TheGridAndTheBankTableHaveTheirBounds) {
@@ -114,34 +115,7 @@ TEST(VoiceBanks, TheGridAndTheBankTableHaveTheirBounds) {
   EXPECT_THROW(banks.bank(0, 128), RuntimeError);
 }
 
-const char* const kNineKits =
-    "standard 1,0\r\nstandard 2,1\r\nroom,8\r\nrock,16\r\nelectro,24\r\nanalog,25\r\n"
-    "jazz,32\r\nbrush,40\r\nclassic,48\r\n";
-
-TEST(DrumKits, NineRecordsAreRead) {
-  const DrumKits kits = DrumKits::parse(kNineKits);
-  ASSERT_EQ(kits.kits().size(), 9U);
-  EXPECT_EQ(kits.kits()[0], (DrumKit{"standard 1", 0}));
-  EXPECT_EQ(kits.kits()[8], (DrumKit{"classic", 48}));
-  EXPECT_EQ(kits.index_of(25), 5);
-  EXPECT_EQ(kits.index_of(2), -1);
-}
-
-TEST(DrumKits, ARecordMayStandOnTwoLines) {
-  std::string lines;
-  for (int i = 1; i <= 9; ++i) lines += "kit\n " + std::to_string(i) + " \n";
-  EXPECT_EQ(DrumKits::parse(lines).kits()[8], (DrumKit{"kit", 9}));
-}
-
-TEST(DrumKits, NothingAfterTheNinthRecordIsRead) {
-  EXPECT_EQ(DrumKits::parse(std::string(kNineKits) + "broken,99999").kits().size(), 9U);
-}
-
-TEST(DrumKits, FewerThanNineRecordsFail) {
-  EXPECT_THROW(DrumKits::parse("standard 1,0\r\n"), RuntimeError);
-}
-
-TEST(ShippedBanks, HoldEveryProgramWithItsVoicesInAscendingBankOrder) {
+TEST(VoiceBanks, TheShippedOnesHoldEveryProgramWithItsVoicesInAscendingBankOrder) {
   const VoiceBanks banks = VoiceBanks::read(LUNAVOX_DATA "/instrubank.ini");
   for (int program = 0; program < 128; ++program) {
     ASSERT_TRUE(banks.has_voice(program, 0)) << program;
@@ -153,34 +127,6 @@ TEST(ShippedBanks, HoldEveryProgramWithItsVoicesInAscendingBankOrder) {
   EXPECT_EQ(banks.name(0, 4), "Dream");
   EXPECT_EQ(banks.bank(4, 0), 41);
   EXPECT_EQ(banks.name(127, 0), "Gunshot");
-}
-
-TEST(ShippedBanks, HoldNineDrumKits) {
-  const DrumKits kits = DrumKits::read(LUNAVOX_DATA "/drumbank.ini");
-  EXPECT_EQ(kits.kits()[0], (DrumKit{"standard 1", 0}));
-  EXPECT_EQ(kits.kits()[8], (DrumKit{"classic", 48}));
-}
-
-TEST(VoiceName, IsFoundByBankAndProgram) {
-  test::SongBench bench;
-  bench.tracks.addinstrutrack();
-  const VoiceBanks voices = VoiceBanks::parse("GrandPno,0,0\r\nDream,41,0\r\n");
-  const DrumKits kits = DrumKits::parse(kNineKits);
-  EXPECT_EQ(voice_name_of(bench.song, 2, voices, kits), "GrandPno");
-  bench.song.bank.at(2) = 41;
-  EXPECT_EQ(voice_name_of(bench.song, 2, voices, kits), "Dream");
-  bench.song.values.at(1, kInstrument, 1) = 40;
-  EXPECT_EQ(voice_name_of(bench.song, 1, voices, kits), "brush");
-}
-
-TEST(VoiceName, OfAVoiceThatIsNotListedIsTheSongsOwn) {
-  test::SongBench bench;
-  bench.tracks.addinstrutrack();
-  bench.song.bank.at(2) = 99;
-  bench.song.effects.set_text(1, 5, "Mystery");
-  bench.song.values.at(1, kInstrument, 1) = 300;
-  EXPECT_EQ(voice_name_of(bench.song, 2, VoiceBanks(), DrumKits()), "Mystery");
-  EXPECT_EQ(voice_name_of(bench.song, 1, VoiceBanks(), DrumKits()), "standard 1");
 }
 
 }  // namespace

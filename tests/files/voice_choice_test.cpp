@@ -12,9 +12,9 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class VoiceDialogs : public ::testing::Test {
+class InstrumentDialog : public ::testing::Test {
  protected:
-  VoiceDialogs() {
+  InstrumentDialog() {
     bench.tracks.addinstrutrack();
     port.open(0);
     output.calls.clear();
@@ -27,14 +27,9 @@ class VoiceDialogs : public ::testing::Test {
   OutputPort port{output, bench.dialogs};
   Property<std::string> voice_name;
   VoiceBanks banks = VoiceBanks::parse("GrandPno,0,0\r\nDream,41,0\r\nBritePno,0,1\r\n");
-  DrumKits kits = DrumKits::parse("a,0,b,1,c,8,d,16,e,24,f,25,g,32,h,40,i,48");
   VoiceDesk desk{bench.song, bench.flags, port, bench.dialogs, voice_name};
   VoiceChoice voices{desk, banks};
-  DrumChoice drums{desk, kits};
 };
-
-using InstrumentDialog = VoiceDialogs;
-using DrumKitDialog = VoiceDialogs;
 
 TEST_F(InstrumentDialog, PressingACellPlaysItsVoiceOnChannelSixteen) {
   voices.instrulist_mousedown({0, 1});
@@ -139,41 +134,6 @@ TEST_F(InstrumentDialog, OpensOnTheCurrentVoice) {
   EXPECT_EQ(voices.current_voice(), (VoiceCell{1, 0}));
   bench.song.values.at(2, 1, 1) = -3;
   EXPECT_EQ(voices.current_voice(), (VoiceCell{0, 0}));
-}
-
-TEST_F(DrumKitDialog, OkTakesTheKitAndSendsAllVoices) {
-  bench.song.current_track = 1;
-  EXPECT_TRUE(drums.drumok_click(7));
-  EXPECT_TRUE(bench.flags.modified);
-  EXPECT_EQ(voice_name.get(), "h");
-  EXPECT_EQ(bench.song.values.at(1, 1, 1), 40);
-  EXPECT_EQ(bench.song.effects.text(1, 2), "h");
-  EXPECT_EQ(output.take_shorts().at(2), 0x28C9U);
-  EXPECT_EQ(drums.current_kit(), 7);
-}
-
-TEST_F(DrumKitDialog, ADoubleClickDoesNotSetModified) {
-  bench.song.current_track = 1;
-  EXPECT_TRUE(drums.drumlist_dblclick(2));
-  EXPECT_FALSE(bench.flags.modified);
-  EXPECT_EQ(bench.song.values.at(1, 1, 1), 8);
-  EXPECT_EQ(output.take_shorts().size(), 8U);
-  bench.flags.modified = true;
-  drums.drumlist_dblclick(3);
-  EXPECT_TRUE(bench.flags.modified);
-}
-
-TEST_F(DrumKitDialog, NothingHappensWithoutAKitSelected) {
-  EXPECT_FALSE(drums.drumok_click(-1));
-  EXPECT_FALSE(drums.drumok_click(9));
-  EXPECT_FALSE(bench.flags.modified);
-  EXPECT_THAT(output.calls, IsEmpty());
-}
-
-TEST_F(DrumKitDialog, OpensOnTheCurrentKit) {
-  EXPECT_EQ(drums.current_kit(), 0);
-  bench.song.values.at(1, 1, 1) = 3;
-  EXPECT_EQ(drums.current_kit(), -1);
 }
 
 }  // namespace

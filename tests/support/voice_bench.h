@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/drum_choice.h"
 #include "files/voice_choice.h"
 #include "tests/support/recording_output.h"
 #include "tests/support/song_bench.h"
