@@ -2,11 +2,11 @@
 
 #include "app/start_up.h"
 #include "midi/ports/logging_output_devices.h"
+#include "tests/support/recorded_count_in.h"
 #include "tests/support/recorded_progress.h"
 #include "tests/support/recording_output.h"
 #include "tests/support/scripted_dialogs.h"
 #include "tests/support/scripted_inputs.h"
-#include "tests/support/studio.h"
 #include "tests/support/temp_folder.h"
 
 #include <optional>

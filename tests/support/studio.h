@@ -6,6 +6,7 @@
 #include "midi/realtime_record_loop.h"
 #include "midi/recorder.h"
 #include "midi/transport.h"
+#include "tests/support/recorded_count_in.h"
 #include "tests/support/recorded_progress.h"
 #include "tests/support/recording_output.h"
 #include "tests/support/scripted_dialogs.h"
@@ -14,16 +15,6 @@
 #include <vector>
 
 namespace lunavox::test {
-
-/// Records what the count-in window was told.
-class RecordedCountIn : public CountInWindow {
- public:
-  void show(const std::string& caption) override { calls.push_back("show " + caption); }
-  void set_caption(const std::string& caption) override { calls.push_back(caption); }
-  void hide() override { calls.push_back("hide"); }
-
-  std::vector<std::string> calls;
-};
 
 /// Everything that plays and records, on a clock that is advanced by hand and an output that writes
 /// down. The song has 16 lines, the drum track and one instrument track, no curve active, and the
