@@ -19,8 +19,8 @@ std::optional<CellRegion> selected_block(const Song& song, Dialogs& dialogs);
 /// Whether the selection is a block of note cells with at least one note.
 bool block_has_notes(const Song& song);
 
-/// Calls a function with track, sub-column and row of each cell of a block: column after column,
-/// each from its first row.
+/// Calls a function with the place of each cell of a block: column after column, each from its
+/// first row.
 template <class Visit>
 void visit_block(const CellRegion& block, Visit visit) {
   for (int column = block.first_column; column <= block.last_column; ++column) {
