@@ -44,7 +44,8 @@ RandomUser::RandomUser(const std::string& log_file)
            bench_.editor.song_file, bench_.editor.midi_export, recent_, bench_.dialogs},
           "readme.htm"),
       recovery_(bench_.editor.song, bench_.editor.flags, bench_.editor.song_file, bench_.clock,
-                bench_.folder.path() / "state") {
+                bench_.folder.path() / "state"),
+      listener_(bench_) {
   Editor& e = bench_.editor;
   files_.set_hooks({[&e] {
                       if (e.flags.playing) e.transport.playnotes_mouseup();
@@ -65,19 +66,12 @@ RandomUser::RandomUser(const std::string& log_file)
   bench_.output.device_names = {"Synth", "Module", "Other module"};
   e.outputdev.fill();
   e.notequeue.set_wake([this] { ++waiting_; });
-  listen_for_stop();
+  listener_.listen();
 }
 
 ScriptedInputs& RandomUser::share_inputs() {
   shared_ = true;
   return bench_.inputs;
-}
-
-std::vector<LogMark> RandomUser::take_marks() {
-  if (bench_.log) bench_.log->flush();
-  std::vector<LogMark> marks;
-  marks.swap(marks_);
-  return marks;
 }
 
 std::string RandomUser::act(const Action& action) {
@@ -88,8 +82,8 @@ std::string RandomUser::act(const Action& action) {
   } catch (const RuntimeError& error) {
     expect(false, std::string("no rule throws here: ") + error.what());
   }
-  listen_for_stop();
-  return wrong_.empty() ? ledger_.wrong() : wrong_;
+  listener_.listen();
+  return wrong_.empty() ? listener_.wrong() : wrong_;
 }
 
 void RandomUser::prepare_answers(const Action& action) {
@@ -214,7 +208,7 @@ void RandomUser::press_key(int key) {
   } else {
     e.note_keys.keystart(pressed.code);
   }
-  listen_for_stop();
+  listener_.listen();
   pass();
 }
 
@@ -273,110 +267,6 @@ void RandomUser::choose_output(int item) {
   Editor& e = bench_.editor;
   const int index = item % static_cast<int>(e.outputdev.items.get().size());
   expect(e.outputdev.click(index), "an output opens");
-}
-
-void RandomUser::receive(int note, int velocity) {
-  constexpr std::array<std::uint32_t, 4> kStatuses = {0x90, 0x93, 0x80, 0xB0};
-  const std::uint32_t status = pick(kStatuses, note / 128);
-  const auto data2 = static_cast<std::uint32_t>(velocity % 128);
-  int data1 = note % 128;
-  if (status != 0xB0) {
-    const bool ends = status == 0x80 || data2 == 0;
-    // What is let go is mostly what is held.
-    if (ends && !held_.empty()) data1 = *held_.begin();
-    if (ends) held_.erase(data1);
-    if (!ends) held_.insert(data1);
-  }
-  bench_.inputs.play(data2 << 16 | static_cast<std::uint32_t>(data1) << 8 | status);
-  pass();
-}
-
-void RandomUser::wait(int ms) {
-  for (int step = 0; step < 5; ++step) {
-    bench_.clock.advance(static_cast<std::uint32_t>(ms / 5));
-    pass();
-  }
-}
-
-void RandomUser::let_play(int ms) {
-  auto left = static_cast<std::uint32_t>(ms);
-  while (left > 0) {
-    const std::uint32_t now = bench_.clock.timeGetTime();
-    const auto due = bench_.editor.current_loop.get()->next_due();
-    const std::uint32_t step = due ? std::clamp(*due - now, 1U, left) : left;
-    bench_.clock.advance(step);
-    left -= step;
-    pass();
-  }
-}
-
-void RandomUser::pass() {
-  Editor& e = bench_.editor;
-  const std::uint32_t now = bench_.clock.timeGetTime();
-  if (waiting_ > NoteQueue::kSlots) lost_ = true;
-  e.current_loop.get()->pass(now);
-  if (e.notequeue.front() == 0) waiting_ = 0;
-  recovery_.pass(now);
-  listen_for_stop();
-}
-
-void RandomUser::tidy_up() {
-  Editor& e = bench_.editor;
-  if (e.flags.recording) e.recorder.recordnotes_click();
-  if (e.flags.playing) e.transport.playnotes_mouseup();
-  listen_for_stop();
-  e.typing_mode.finish();
-  pass();
-  e.note_keys.release_all();
-  pass();
-  std::set<int> notes = held_;
-  // A release that was overwritten never came.
-  for (int note = 0; note < 128 && (lost_ || shared_); ++note) notes.insert(note);
-  let_go(notes);
-  listen_for_stop();
-  meet(PlayEvent::kHandsOff);
-  files_.menunew_click();
-  // Of the clipboard too nothing is left.
-  e.song.tracks.set_cursor(1, 1);
-  e.clipboard.copyproc();
-  recovery_.wait();
-}
-
-void RandomUser::let_go(const std::set<int>& notes) {
-  for (const int note : notes) {
-    bench_.inputs.play(static_cast<std::uint32_t>(note) << 8 | 0x80);
-    pass();
-  }
-  held_.clear();
-  lost_ = false;
-}
-
-void RandomUser::listen_for_stop() {
-  using Call = RecordingOutput::Call;
-  const Editor& e = bench_.editor;
-  for (const Call& call : bench_.output.calls) {
-    if (call.kind == Call::kShort) ledger_.take_short(call.packed);
-    if (call.kind == Call::kLong) ledger_.take_sysex();
-    if (call.kind == Call::kReset) meet(PlayEvent::kDeviceReset);
-  }
-  bench_.output.calls.clear();
-  const std::uint32_t now = bench_.clock.timeGetTime();
-  if (e.flags.playing) played_ms_ += elapsed_ms(heard_at_, now);
-  heard_at_ = now;
-  // Realtime recording leaves what is held sounding until it is released.
-  const bool playing_song = e.flags.playing && e.current_loop.is(e.play_loop);
-  if (playing_song != playing_song_) {
-    const bool taken_over = e.flags.recording && !recording_;
-    meet(playing_song ? PlayEvent::kPlays
-                      : (taken_over ? PlayEvent::kTakenOver : PlayEvent::kStops));
-  }
-  playing_song_ = playing_song;
-  recording_ = e.flags.recording;
-}
-
-void RandomUser::meet(PlayEvent event) {
-  ledger_.meet(event);
-  if (bench_.log) marks_.push_back({ledger_.messages(), event});
 }
 
 void RandomUser::expect(bool held, const std::string& what) {

@@ -3,8 +3,7 @@
 #include "files/file_commands.h"
 #include "files/recent_files.h"
 #include "files/recovery.h"
-#include "log_checker.h"
-#include "note_ledger.h"
+#include "listener.h"
 #include "tests/support/editor_bench.h"
 #include "user_action.h"
 
@@ -34,12 +33,8 @@ class RandomUser {
   /// Somebody else plays on the same input, from another thread: what is held is not known then.
   ScriptedInputs& share_inputs();
 
-  /// The notes that sounded so far.
-  const NoteLedger& ledger() const { return ledger_; }
-  /// Milliseconds so far in which the song played or was recorded in real time.
-  long long played_ms() const { return played_ms_; }
-  /// What was met since the last call, for whoever reads the log. All messages are in its file.
-  std::vector<LogMark> take_marks();
+  /// Who listens to what the editor sends.
+  Listener& listener() { return listener_; }
 
  private:
   void perform(const Action& action);
@@ -50,13 +45,15 @@ class RandomUser {
   void scroll(int row, int track);
   void enter_field(int field, int text);
   void tick_option(int option);
+  void choose_output(int item);
+
+  // random_user_playing.cpp
   void receive(int note, int velocity);
   void wait(int ms);
   void let_play(int ms);
   void pass();
   void tidy_up();
   void let_go(const std::set<int>& notes);
-  void choose_output(int item);
 
   // random_user_files.cpp
   void begin_song(int answer);
@@ -69,22 +66,14 @@ class RandomUser {
   void export_song();
   void lose_program();
 
-  /// Accounts for what was sent since the last time, and for a stop among it.
-  void listen_for_stop();
-  void meet(PlayEvent event);
   void expect(bool held, const std::string& what);
 
   EditorBench bench_;
   RecentFiles recent_;
   FileCommands files_;
   RecoveryFile recovery_;
-  NoteLedger ledger_;
-  std::vector<LogMark> marks_;
+  Listener listener_;
 
-  bool playing_song_ = false;   ///< when it was last listened
-  bool recording_ = false;      ///< then
-  std::uint32_t heard_at_ = 0;  ///< the time then
-  long long played_ms_ = 0;
   std::set<int> held_;                ///< keys of the MIDI keyboard that are down
   std::atomic<int> waiting_{0};       ///< writes to the note queue since it was last empty
   bool lost_ = false;                 ///< messages have been overwritten there

@@ -90,7 +90,8 @@ class Soak {
   std::string run(long long played_ms) {
     // The longest song that will be made, so that the stores need not grow later.
     std::string wrong = run_round({{Deed::kEnterField, kLength, kLongest}, {Deed::kTidyUp, 0, 0}});
-    while (wrong.empty() && user_.played_ms() < played_ms) wrong = run_round(random_round(chance_));
+    while (wrong.empty() && user_.listener().played_ms() < played_ms)
+      wrong = run_round(random_round(chance_));
     return wrong;
   }
 
@@ -117,7 +118,7 @@ class Soak {
       const std::string wrong = user_.act(action);
       if (!wrong.empty()) return wrong;
     }
-    const auto marks = user_.take_marks();
+    const auto marks = user_.listener().take_marks();
     for (const test::LogMark& mark : marks) stops_ += mark.event == test::PlayEvent::kStops;
     std::string wrong = checker_.check(log_, marks);
     heap_.add(test::heap_in_use() - script_.capacity() * sizeof(Action));
