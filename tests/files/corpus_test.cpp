@@ -55,14 +55,14 @@ std::string outcome_of_reading(const std::function<void()>& read) {
 }
 
 std::string saved_after_opening(const fs::path& file) {
-  SongBench bench("2");
+  SongBench bench(2);
   bench.file.current_name = file.string();
   bench.file.procopen();
   return song_text(bench.song);
 }
 
 std::string outcome_of_opening(const fs::path& file) {
-  SongBench bench("2");
+  SongBench bench(2);
   const std::string before = song_text(bench.song);
   bench.file.current_name = file.string();
   const std::string outcome = outcome_of_reading([&] { bench.file.procopen(); });

@@ -27,7 +27,7 @@ class FileMenu : public ::testing::Test {
     return {"Do you want to save your music before ?", command, Icon::kNone, Buttons::kYesNoCancel};
   }
   /// Saves a song of some lines elsewhere.
-  std::string other_song(const std::string& name, const std::string& lines) {
+  std::string other_song(const std::string& name, int lines) {
     SongBench other(lines);
     other.file.current_name = folder.file(name);
     other.file.procsave();
@@ -35,7 +35,7 @@ class FileMenu : public ::testing::Test {
   }
 
   TempFolder folder;
-  SongBench bench{"16"};
+  SongBench bench{16};
   MidiExport exporter{bench.song, bench.progress};
   RecentFiles recent{folder.file("settings/recent")};
   FileCommands commands{{bench.song, bench.flags, bench.tracks, bench.length, bench.file, exporter,
@@ -149,7 +149,7 @@ TEST_F(FileMenu, NewResetsTheSong) {
 }
 
 TEST_F(FileMenu, ANewSongIsTheOneThatTheEditorStartsWith) {
-  const SongBench fresh("64");
+  const SongBench fresh(64);
   bench.tracks.addinstrutrack();
   bench.song.write_entry(1, 1, 1, "642499");
   bench.flags.modified = false;
@@ -158,7 +158,7 @@ TEST_F(FileMenu, ANewSongIsTheOneThatTheEditorStartsWith) {
   bench.file.current_name = name;
   bench.file.procsave();
   const std::string saved = folder.read("new.lvx");
-  SongBench other("64");
+  SongBench other(64);
   other.file.current_name = name;
   other.file.procsave();
   EXPECT_EQ(saved, folder.read("new.lvx"));
@@ -174,7 +174,7 @@ TEST_F(FileMenu, ANewSongDoesNotOverwriteTheOldOnesFile) {
 }
 
 TEST_F(FileMenu, OpenShowsItsDialogAndReadsTheSong) {
-  bench.dialogs.files = {other_song("other.lvx", "32")};
+  bench.dialogs.files = {other_song("other.lvx", 32)};
   commands.menuopen_click();
   EXPECT_THAT(bench.dialogs.opened,
               ElementsAre(FileQuestion{"Lunavox (*.lvo;*.lvx)|*.lvo;*.lvx", "Open"}));
@@ -300,7 +300,7 @@ TEST_F(FileMenu, FileWorkStopsPlaying) {
 }
 
 TEST_F(FileMenu, APathIsOpenedAfterTheSaveQuestion) {
-  const std::string name = other_song("other.lvx", "32");
+  const std::string name = other_song("other.lvx", 32);
   bench.flags.modified = true;
   commands.open_path(name);
   EXPECT_THAT(bench.dialogs.messages, ElementsAre(save_question("Open")));
@@ -311,7 +311,7 @@ TEST_F(FileMenu, APathIsOpenedAfterTheSaveQuestion) {
 }
 
 TEST_F(FileMenu, ASongHasItsWholeNameHoweverItWasGiven) {
-  const std::string name = other_song("other.lvx", "32");
+  const std::string name = other_song("other.lvx", 32);
   commands.open_path(std::filesystem::relative(name).string());
   EXPECT_EQ(std::filesystem::path(bench.file.current_name.get()).lexically_normal(), name);
   EXPECT_TRUE(std::filesystem::path(bench.file.current_name.get()).is_absolute());

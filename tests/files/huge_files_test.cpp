@@ -33,7 +33,7 @@ int error_of_opening(const std::string& name) {
   const pid_t child = ::fork();
   if (child == 0) {
     int result = 0;
-    SongBench bench("2");
+    SongBench bench(2);
     bench.file.current_name = name;
     try {
       bench.file.procopen();
@@ -115,7 +115,7 @@ TEST(HugeFile, ManyLinesToBePassedOverEndWithTheFile) {
 }
 
 TEST(HugeFile, LengthsThatTheSongDoesNotHaveDoNotHangTheExport) {
-  SongBench bench("2");
+  SongBench bench(2);
   bench.song.length.put("2147483000");
   bench.song.active.at(1)[kInstrument] = false;
   EXPECT_EQ(midi_file_bytes(bench.song).size(), 14U + 8U + 102U);

@@ -62,19 +62,19 @@ std::string output_of(const std::string& command) {
 }
 
 TEST(MidiExport, ANewSongIsExportedByteForByteAsWrittenByHand) {
-  const SongBench bench("3");
+  const SongBench bench(3);
   EXPECT_EQ(midi_file_bytes(bench.song), bytes(kHeaderOfOneTrack + std::string("00 00 00 6E ") +
                                                kDrumSetup + "01 B9 07 7F 01 B9 07 7F 00 FF 2F 00"));
 }
 
 TEST(MidiExport, TheSongsLastLineIsNotExported) {
-  SongBench bench("3");
+  SongBench bench(3);
   bench.song.write_entry(1, 1, 3, "642499");
-  EXPECT_EQ(midi_file_bytes(bench.song), midi_file_bytes(SongBench("3").song));
+  EXPECT_EQ(midi_file_bytes(bench.song), midi_file_bytes(SongBench(3).song));
 }
 
 TEST(MidiExport, NotesOfAColumnEndBeforeTheNextOneAndAtAStop) {
-  SongBench bench("5");
+  SongBench bench(5);
   bench.song.write_entry(1, 1, 1, "642499");
   bench.song.write_entry(1, 1, 2, "A2699");
   bench.song.write_entry(1, 1, 3, "stop");
@@ -91,7 +91,7 @@ TEST(MidiExport, NotesOfAColumnEndBeforeTheNextOneAndAtAStop) {
 }
 
 TEST(MidiExport, NotesStillSoundingAreEndedColumnByColumn) {
-  SongBench bench("2");
+  SongBench bench(2);
   bench.song.write_entry(1, 2, 1, "642499");
   bench.song.write_entry(1, 5, 1, "642699");
   bench.song.write_entry(1, 7, 1, "642A99");
@@ -101,7 +101,7 @@ TEST(MidiExport, NotesStillSoundingAreEndedColumnByColumn) {
 }
 
 TEST(MidiExport, ActiveCurvesAreWrittenOnEveryLineInOrder) {
-  SongBench bench("3");
+  SongBench bench(3);
   for (int e = 2; e <= 11; ++e) {
     set_active(bench.song, 1, e, true);
     bench.song.values.at(1, e, 1) = static_cast<std::int16_t>(e);
@@ -119,7 +119,7 @@ TEST(MidiExport, ActiveCurvesAreWrittenOnEveryLineInOrder) {
 }
 
 TEST(MidiExport, ValuesBeyondADataByteAreWrittenAsTheyCome) {
-  SongBench bench("2");
+  SongBench bench(2);
   set_active(bench.song, 1, kVolume, true);
   bench.song.values.at(1, kVolume, 1) = 200;
   EXPECT_THAT(midi_file_bytes(bench.song), ::testing::EndsWith(bytes("01 B9 07 C8 00 FF 2F 00")));
@@ -128,7 +128,7 @@ TEST(MidiExport, ValuesBeyondADataByteAreWrittenAsTheyCome) {
 }
 
 TEST(MidiExport, AnInactiveInstrumentYieldsOnlyTheSetUp) {
-  SongBench bench("64");
+  SongBench bench(64);
   set_active(bench.song, 1, kInstrument, false);
   set_active(bench.song, 1, kVolume, true);
   bench.song.write_entry(1, 1, 1, "642499");
@@ -137,7 +137,7 @@ TEST(MidiExport, AnInactiveInstrumentYieldsOnlyTheSetUp) {
 }
 
 TEST(MidiExport, EachTrackIsAChunkOnItsChannel) {
-  SongBench bench("2");
+  SongBench bench(2);
   bench.tracks.addinstrutrack();
   bench.song.bank.at(2) = 18;
   bench.song.values.at(2, kInstrument, 1) = 33;
@@ -153,7 +153,7 @@ TEST(MidiExport, EachTrackIsAChunkOnItsChannel) {
 }
 
 TEST(MidiExport, TempoAndLinesPerBeatAreTheSongs) {
-  SongBench bench("2");
+  SongBench bench(2);
   bench.song.bpm.put("130");
   bench.song.number.put("6");
   const std::string file = midi_file_bytes(bench.song);
@@ -162,7 +162,7 @@ TEST(MidiExport, TempoAndLinesPerBeatAreTheSongs) {
 }
 
 TEST(MidiExport, TheEffectTypesAreThoseOfTheLists) {
-  SongBench bench("2");
+  SongBench bench(2);
   bench.song.reverb = 8;
   bench.song.chorus = -1;
   bench.song.variation = 16;
@@ -172,14 +172,14 @@ TEST(MidiExport, TheEffectTypesAreThoseOfTheLists) {
 }
 
 TEST(MidiExport, ALengthBeyondTheSongBreaksTheBound) {
-  SongBench bench("2");
+  SongBench bench(2);
   bench.song.length.put("2000000000");
   EXPECT_THROW(midi_file_bytes(bench.song), RuntimeError);
 }
 
 TEST(MidiExport, ShowsItsProgressTrackByTrack) {
   const TempFolder folder;
-  SongBench bench("2");
+  SongBench bench(2);
   bench.tracks.addinstrutrack();
   bench.progress.shown.clear();
   MidiExport exporter(bench.song, bench.progress);
@@ -193,7 +193,7 @@ TEST(MidiExport, ShowsItsProgressTrackByTrack) {
 
 TEST(MidiExport, AFailedExportKeepsTheOldFile) {
   const TempFolder folder;
-  SongBench bench("2");
+  SongBench bench(2);
   MidiExport exporter(bench.song, bench.progress);
   exporter.export_name = folder.write("song.mid", "old");
   bench.song.bpm.put("0");
@@ -217,7 +217,7 @@ class ExportedFile : public ::testing::Test {
   }
 
   TempFolder folder;
-  SongBench bench{"3"};
+  SongBench bench{3};
 };
 
 TEST_F(ExportedFile, IsReadByMidicsv) {

@@ -37,7 +37,7 @@ struct Desk {
   }
   bool written() const { return std::filesystem::exists(recovery.file()); }
 
-  SongBench bench{"16"};
+  SongBench bench{16};
   ManualClock clock{4'294'966'000U};  // wraps around soon
   int due = 0;
   RecoveryFile recovery;

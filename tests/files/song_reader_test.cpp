@@ -86,7 +86,7 @@ TEST_F(SongReading, OpeningFillsTheEffectColumns) {
 }
 
 TEST_F(SongReading, OpeningNumbersTheLinesAndMarksTheBeats) {
-  SongBench longer("64");
+  SongBench longer(64);
   longer.file.current_name = folder.file("long.lvx");
   longer.song.number.put("3");
   longer.file.procsave();
@@ -141,7 +141,7 @@ TEST_F(SongReading, TheLoadingFlagStandsAndTheGridDoesNotRedrawFromTheFirstTrack
 }
 
 TEST_F(SongReading, MissingTracksAreAddedToAGridOfThreeRows) {
-  SongBench longer("64");
+  SongBench longer(64);
   std::vector<int> rows;
   longer.progress.on_step = [&] { rows.push_back(longer.song.tracks.rows()); };
   longer.file.current_name = folder.write("song.lvx", joined(full_song()));
@@ -189,7 +189,7 @@ TEST_F(SongReading, AnIndexOutsideAnXgListSelectsNothing) {
 
 TEST_F(SongReading, OtherLineEndsReadTheSame) {
   for (const char* line_end : {"\n", "\r"}) {
-    SongBench fresh("2");
+    SongBench fresh(2);
     fresh.file.current_name = folder.write("other.lvx", joined(full_song(), line_end));
     fresh.file.procopen();
     fresh.file.current_name = folder.file("saved.lvx");

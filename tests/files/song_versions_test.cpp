@@ -136,7 +136,7 @@ TEST_F(SongVersions, OldFilesAreUpgradedBySaving) {
   open(old_song("1.1"));
   const std::string bytes = saved();
   EXPECT_EQ(bytes.substr(0, 5), "2.0\r\n");
-  SongBench again("2");
+  SongBench again(2);
   again.file.current_name = folder.file("saved.lvx");
   again.file.procopen();
   EXPECT_EQ(again.song.values, bench.song.values);

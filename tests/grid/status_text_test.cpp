@@ -1,6 +1,6 @@
 #include "grid/status_text.h"
 
-#include "tests/support/window_song.h"
+#include "tests/support/song_parts.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace {
 
 /// Two tracks of 64 lines, four a beat.
 struct CursorText : testing::Test {
-  test::WindowSong model{2};
+  test::SongParts model{2};
   Song& song = model.song;
 };
 

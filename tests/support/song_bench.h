@@ -1,13 +1,7 @@
 #pragma once
 
 #include "files/song_file.h"
-#include "grid/flags.h"
-#include "grid/screen.h"
-#include "grid/song.h"
-#include "grid/song_length.h"
-#include "grid/tracks.h"
-#include "tests/support/recorded_progress.h"
-#include "tests/support/scripted_dialogs.h"
+#include "tests/support/song_parts.h"
 #include "tests/support/temp_folder.h"
 
 #include <string>
@@ -15,27 +9,12 @@
 
 namespace lunavox::test {
 
-/// A song with all that the file commands need around it: one drum track of some lines.
-struct SongBench {
-  explicit SongBench(const std::string& lines = "64") {
-    flags.song_building = true;
-    song.length.put(lines);
-    tracks.adddrumtrack();
-    length.lengthchange();
-    length.calcultime();
-    song.tracks.set_cursor(1, 1);
-    flags.song_building = false;
-    progress.shown.clear();
+/// A song of one drum track with all that the file commands need around it.
+struct SongBench : SongParts {
+  explicit SongBench(int lines = 64) : SongParts(1, lines) {
     file.set_starteffect([this] { ++starteffects; });
   }
 
-  Song song;
-  Flags flags;
-  Screen screen{1024, 768};
-  ScriptedDialogs dialogs;
-  RecordedProgress progress;
-  Tracks tracks{song, flags, screen, dialogs, progress};
-  SongLength length{song, flags, dialogs, progress};
   SongFile file{song, flags, tracks, length, dialogs, progress};
   int starteffects = 0;
 };

@@ -79,7 +79,7 @@ class SongFiles : public ::testing::Test {
   }
 
   TempFolder folder;
-  SongBench bench{"2"};
+  SongBench bench{2};
 };
 
 }  // namespace lunavox::test

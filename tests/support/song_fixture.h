@@ -1,12 +1,6 @@
 #pragma once
 
-#include "grid/flags.h"
-#include "grid/screen.h"
-#include "grid/song.h"
-#include "grid/song_length.h"
-#include "grid/tracks.h"
-#include "tests/support/recorded_progress.h"
-#include "tests/support/scripted_dialogs.h"
+#include "tests/support/song_parts.h"
 
 #include <string>
 #include <vector>
@@ -15,21 +9,10 @@
 
 namespace lunavox::test {
 
-/// A song of a drum track and instrument tracks, without what a higher room ties to it, with the
-/// cursor on its first cell.
-class SongFixture : public ::testing::Test {
+/// A song of a drum track and an instrument track, 16 lines long.
+class SongFixture : public ::testing::Test, protected SongParts {
  protected:
-  SongFixture() {
-    flags.song_building = true;
-    tracks.adddrumtrack();
-    resize(16);
-    tracks.addinstrutrack();
-    flags.song_building = false;
-    song.tracks.set_cursor(1, 1);
-    song.actualtrack();
-    flags.modified = false;
-    progress.shown.clear();
-  }
+  SongFixture() : SongParts(2, 16) {}
 
   void resize(int lines) {
     song.length.put(std::to_string(lines));
@@ -54,14 +37,6 @@ class SongFixture : public ::testing::Test {
     song.values.at(track, effect, row) = static_cast<std::int16_t>(value);
     song.key_attributes.at(track, effect, row) = 1;
   }
-
-  Song song;
-  Flags flags;
-  Screen screen{1024, 768};
-  ScriptedDialogs dialogs;
-  RecordedProgress progress;
-  Tracks tracks{song, flags, screen, dialogs, progress};
-  SongLength length{song, flags, dialogs, progress};
 };
 
 }  // namespace lunavox::test

@@ -1,7 +1,7 @@
 #include "app/ui/song_grids.h"
 
 #include "grid/ui/grid_view.h"
-#include "tests/support/window_song.h"
+#include "tests/support/song_parts.h"
 #include "window_bench.h"
 
 #include <QScrollBar>
@@ -26,7 +26,7 @@ struct SongGridsTest : testing::Test {
   }
 
   test::WindowBench bench;  // for its keys
-  test::WindowSong fixture;
+  test::SongParts fixture;
   NoteKeyboard keyboard{bench.editor.note_keys, bench.editor.typing_mode, LayoutSet::kQwerty};
   Property<bool> curs;
   SongGrids grids{{fixture.song, fixture.flags, fixture.screen, curs}, keyboard, {}};

@@ -1,6 +1,6 @@
 #include "grid/ui/grid_view.h"
 
-#include "tests/support/window_song.h"
+#include "tests/support/song_parts.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -42,7 +42,7 @@ struct GridViewTest : testing::Test {
 
   QPoint centre_of(int row, int column) const { return view.cell_rect({row, column}).center(); }
 
-  test::WindowSong fixture{3};
+  test::SongParts fixture{3};
   CellGrid& grid = fixture.song.tracks;
   GridView view{grid, HeaderRow::kHeader, kColumnsPerTrack};
 };
@@ -178,10 +178,10 @@ TEST_F(GridViewTest, AWholeTrackScrollsIntoPlace) {
 }
 
 TEST_F(GridViewTest, ALongerOrShorterSongChangesTheRowsOnTheScreen) {
-  fixture.song_length.length_validate("3000");
+  fixture.length.length_validate("3000");
   EXPECT_EQ(view.model()->rowCount(), 3000);
   EXPECT_EQ(view.model()->headerData(2999, Qt::Vertical).toString().toStdString(), "BB7");
-  fixture.song_length.length_validate("2");
+  fixture.length.length_validate("2");
   settle();
   EXPECT_EQ(view.model()->rowCount(), 2);
 }

@@ -1,7 +1,7 @@
 #include "midi/ports/audio_file.h"
 
 #include "midi/ports/port_error.h"
-#include "test_files.h"
+#include "tests/support/temp_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@
 namespace lunavox {
 namespace {
 
-using test::TestFolder;
+using test::TempFolder;
 
 struct Sound {
   SF_INFO info{};
@@ -37,7 +37,7 @@ std::string refusal(const std::filesystem::path& path) {
 }
 
 TEST(AudioFile, AWaveFileIsReadBackAsItWasWritten) {
-  const TestFolder folder;
+  const TempFolder folder;
   const auto path = folder.file("song.wav");
   AudioFile file(path, 48000);
   file.write({0.5F, -0.5F, 0.25F, -0.25F});
@@ -54,7 +54,7 @@ TEST(AudioFile, AWaveFileIsReadBackAsItWasWritten) {
 }
 
 TEST(AudioFile, SoundBeyondFullScaleIsClippedNotWrapped) {
-  const TestFolder folder;
+  const TempFolder folder;
   const auto path = folder.file("loud.wav");
   AudioFile file(path, 44100);
   file.write({1.5F, -1.5F});
@@ -64,7 +64,7 @@ TEST(AudioFile, SoundBeyondFullScaleIsClippedNotWrapped) {
 }
 
 TEST(AudioFile, TheEndingPicksTheKindOfFileInAnyCase) {
-  const TestFolder folder;
+  const TempFolder folder;
   const std::vector<float> silence(2000);
   for (const auto& [name, kind] :
        {std::pair{"song.FLAC", SF_FORMAT_FLAC}, std::pair{"song.ogg", SF_FORMAT_OGG}}) {
@@ -88,7 +88,7 @@ TEST(AudioFile, APlaceThatCannotBeWrittenIsTold) {
 }
 
 TEST(AudioFile, AFullDiskIsTold) {
-  const TestFolder folder;
+  const TempFolder folder;
   std::filesystem::create_symlink("/dev/full", folder.file("song.wav"));
   EXPECT_NE(refusal(folder.file("song.wav")), "no error");
 }

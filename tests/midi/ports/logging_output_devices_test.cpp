@@ -1,8 +1,8 @@
 #include "midi/ports/logging_output_devices.h"
 
 #include "midi/ports/port_error.h"
-#include "test_files.h"
 #include "tests/support/recording_output.h"
+#include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -10,16 +10,16 @@ namespace lunavox {
 namespace {
 
 using test::RecordingOutput;
-using test::TestFolder;
+using test::TempFolder;
 
 class MidiLogging : public testing::Test {
  protected:
   std::unique_ptr<LoggingOutputDevices> logging() {
     return std::make_unique<LoggingOutputDevices>(recorder_, file_, [this] { return now_; });
   }
-  std::string log() const { return test::read_file(file_); }
+  std::string log() const { return folder_.read("midi.log"); }
 
-  TestFolder folder_;
+  TempFolder folder_;
   std::filesystem::path file_ = folder_.file("midi.log");
   RecordingOutput recorder_;
   std::chrono::microseconds now_{5'000'000};

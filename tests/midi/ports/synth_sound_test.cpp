@@ -1,6 +1,6 @@
 #include "midi/ports/synth_device.h"
 #include "midi/ports/synthesiser.h"
-#include "test_files.h"
+#include "tests/support/temp_folder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +10,7 @@
 namespace lunavox {
 namespace {
 
-using test::TestFolder;
+using test::TempFolder;
 
 constexpr char kSoundFont[] = "/usr/share/sounds/sf2/TimGM6mb.sf2";
 constexpr int kRate = 44100;
@@ -202,8 +202,9 @@ TEST_F(SynthSound, ATunnelRingsLongerThanAWhiteRoom) {
 
 TEST(SynthSoundFont, ABrokenSoundFontIsOneSentence) {
   ASSERT_TRUE(std::filesystem::exists(kSoundFont)) << kSoundFont << " is not installed";
-  const TestFolder folder;
-  const std::string whole = test::read_file(kSoundFont);
+  const TempFolder folder;
+  std::ifstream file(kSoundFont, std::ios::binary);
+  const std::string whole(std::istreambuf_iterator<char>(file), {});
   const std::string_view begin = whole;
   for (const std::size_t length : {12u, 100u, 5000u, 3000000u}) {
     const auto broken = folder.write("broken.sf2", begin.substr(0, length));
@@ -211,7 +212,7 @@ TEST(SynthSoundFont, ABrokenSoundFontIsOneSentence) {
     testing::internal::CaptureStderr();
     EXPECT_EQ(Synthesiser::load(broken, kRate, problem), nullptr);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
-    EXPECT_EQ(problem, "The SoundFont \"" + broken.string() + "\" is broken.");
+    EXPECT_EQ(problem, "The SoundFont \"" + broken + "\" is broken.");
   }
 }
 
