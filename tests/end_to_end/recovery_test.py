@@ -106,7 +106,6 @@ class Recovery(unittest.TestCase):
         window.quit()
         self.assertEqual(self.kept_songs(), [])
 
-
     def test_an_output_that_cannot_be_opened_ends_the_editor_and_keeps_unsaved_work(self):
         window = self.edit("--soundfont", self.broken_soundfont())
         window.key("alt+o", "Down", "Return")  # the built-in synthesiser

@@ -60,6 +60,7 @@ class Take:
         line_ms = beat_ms / self.lines_per_beat
         test.assertLess(abs(distance * line_ms - self.note_ms), line_ms, lines)
 
+
 def sounded(entry):
     """A note's entry, as the message that sounds it."""
     return f"{entry[-2:]} {entry[-4:-2]} {entry[:-4]:0>2}".lower()
