@@ -94,6 +94,13 @@ void EffectsView::keyPressEvent(QKeyEvent* event) {
   GridView::keyPressEvent(event);
 }
 
+// The cursor stands outside the settings until one is chosen. Whoever comes by the Tab key is to
+// see where the keys have gone.
+void EffectsView::focusInEvent(QFocusEvent* event) {
+  if (grid().row() < 1 || grid().column() < 1) grid().set_cursor(1, 1);
+  GridView::focusInEvent(event);
+}
+
 void EffectsView::cell_pressed() {
   click_(grid().column(), grid().row());
 }

@@ -47,6 +47,7 @@ class EffectsView : public GridView {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void cell_pressed() override;
   bool shows_cursor() const override { return hasFocus(); }
   bool selects() const override { return false; }

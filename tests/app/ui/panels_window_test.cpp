@@ -1,9 +1,12 @@
+#include "grid/ui/grid_view.h"
+#include "grid/ui/theme.h"
 #include "window_bench.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -79,6 +82,22 @@ TEST_F(PanelsWindowTest, TheTabKeyWalksFromTheNotesThroughThePanelsInOrder) {
               ElementsAre("playnotes", "recordnotes", "length", "bpm", "number", "step", "reverb",
                           "chorus", "variation", "bookmark", "Image1", "Image2", "realtime",
                           "begin", "velocity", "curs", "area", "strength", "effects"));
+}
+
+TEST_F(PanelsWindowTest, ASettingIsMarkedAsSoonAsTheTabKeyComesToThem) {
+  auto& effects = static_cast<GridView&>(bench.find<QTableView>("effects"));
+  bench.window.focus_tracks();
+  WindowBench::settle();
+  const QRect first = effects.cell_rect({1, 1});
+  const auto corner = [&] {
+    const QImage picture = effects.viewport()->grab(first).toImage();
+    return picture.pixelColor(0, 0);
+  };
+  EXPECT_NE(corner(), theme::kAccent);
+  QTest::keyClick(bench.window.focusWidget(), Qt::Key_Backtab);
+  WindowBench::settle();
+  EXPECT_EQ(bench.window.focusWidget(), &effects);
+  EXPECT_EQ(corner(), theme::kAccent);
 }
 
 TEST_F(PanelsWindowTest, TheTimeFollowsTheFields) {
