@@ -80,13 +80,15 @@ QComboBox::down-arrow { image: url(:/lunavox/down.svg); width: 9px; height: 6px;
 QComboBox QAbstractItemView { background: #1b1e25; border: 1px solid #30353f; outline: none;
   selection-background-color: #3a404c; selection-color: #ffffff; }
 QComboBox QAbstractItemView::item { height: 22px; padding: 0 6px; }
-QCheckBox { color: #c3c8d1; spacing: 6px; background: transparent; }
+QCheckBox { color: #c3c8d1; spacing: 6px; background: transparent; outline: none; }
+QCheckBox:focus { color: #ffffff; }
 QCheckBox:disabled { color: #585f6d; }
 QCheckBox::indicator { width: 11px; height: 11px; border: 1px solid #4a505d; border-radius: 3px;
   background: #0f1115; }
-QCheckBox::indicator:hover, QCheckBox:focus::indicator { border-color: #ffb454; }
+QCheckBox::indicator:hover, QCheckBox::indicator:focus { border-color: #ffb454; }
 QCheckBox::indicator:checked { background: #ffb454; border-color: #ffb454;
   image: url(:/lunavox/tick.svg); }
+QCheckBox::indicator:checked:focus { border-color: #ffffff; }
 QPushButton { background: #262a34; color: #dadde3; border: 1px solid #393f4b; border-radius: 4px;
   padding: 5px 16px; min-width: 60px; }
 QPushButton:hover { background: #2f3440; }
@@ -106,6 +108,7 @@ QScrollBar::handle:disabled { background: #191c22; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
+QMessageBox { messagebox-warning-icon: url(:/lunavox/warning.svg); }
 QListWidget { outline: none; }
 QListWidget::item { padding: 0 6px; border: none; background: transparent; color: #dadde3; }
 QListWidget::item:selected { background: #ffb454; color: #000000; }
