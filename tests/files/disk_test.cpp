@@ -1,6 +1,7 @@
 #include "files/disk.h"
 
 #include "files/file_bytes.h"
+#include "tests/support/error_of.h"
 #include "tests/support/temp_folder.h"
 
 #include <cerrno>
@@ -26,14 +27,8 @@ TEST(Disk, TheSystemsErrorsAreTheRuntimes) {
   }
 }
 
-/// The number of the error that reading ends in, 0 where it succeeds.
-int error_of_reading(const std::filesystem::path& path) {
-  try {
-    read_file(path);
-    return 0;
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
+std::optional<RuntimeError::Number> error_of_reading(const std::filesystem::path& path) {
+  return test::error_of([&] { read_file(path); });
 }
 
 TEST(FileBytes, AFolderIsNoFileToRead) {

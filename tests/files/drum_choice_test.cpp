@@ -1,7 +1,6 @@
 #include "files/drum_choice.h"
 
-#include "tests/support/recording_output.h"
-#include "tests/support/song_bench.h"
+#include "tests/support/voice_bench.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,31 +10,16 @@ namespace {
 
 using ::testing::IsEmpty;
 
-class DrumKitDialog : public ::testing::Test {
- protected:
-  DrumKitDialog() {
-    bench.tracks.addinstrutrack();
-    bench.song.current_track = 1;
-    port.open(0);
-    output.calls.clear();
-    bench.flags.modified = false;
-  }
-
-  test::SongBench bench;
-  test::RecordingOutput output;
-  OutputPort port{output, bench.dialogs};
-  Property<std::string> voice_name;
-  DrumKits kits = DrumKits::parse("a,0,b,1,c,8,d,16,e,24,f,25,g,32,h,40,i,48");
-  VoiceDesk desk{bench.song, bench.flags, port, bench.dialogs, voice_name};
-  DrumChoice drums{desk, kits};
+struct DrumKitDialog : test::VoiceBench {
+  DrumKitDialog() { bench.song.current_track = 1; }
 };
 
 TEST_F(DrumKitDialog, OkTakesTheKitAndSendsAllVoices) {
   EXPECT_TRUE(drums.drumok_click(7));
   EXPECT_TRUE(bench.flags.modified);
-  EXPECT_EQ(voice_name.get(), "h");
+  EXPECT_EQ(voice_name.get(), "brush");
   EXPECT_EQ(bench.song.values.at(1, 1, 1), 40);
-  EXPECT_EQ(bench.song.effects.text(1, 2), "h");
+  EXPECT_EQ(bench.song.effects.text(1, 2), "brush");
   EXPECT_EQ(output.take_shorts().at(2), 0x28C9U);
   EXPECT_EQ(drums.current_kit(), 7);
 }

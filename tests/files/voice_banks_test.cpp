@@ -1,6 +1,7 @@
 #include "files/voice_banks.h"
 
 #include "grid/runtime_error.h"
+#include "tests/support/error_of.h"
 #include "tests/support/temp_folder.h"
 
 #include <string>
@@ -20,14 +21,8 @@ std::string program_of(int program, int voices) {
   return records;
 }
 
-RuntimeError::Number error_of_voices(const std::string& bytes) {
-  try {
-    VoiceBanks::parse(bytes);
-  } catch (const RuntimeError& error) {
-    return error.number();
-  }
-  ADD_FAILURE() << "no error";
-  return RuntimeError::kFileNotFound;
+std::optional<RuntimeError::Number> error_of_voices(const std::string& bytes) {
+  return test::error_of([&] { VoiceBanks::parse(bytes); });
 }
 
 TEST(VoiceBanks, AFirstRecordOfProgramZeroFillsRowZeroFromColumnZero) {

@@ -1,7 +1,6 @@
 #include "files/voice_choice.h"
 
-#include "tests/support/recording_output.h"
-#include "tests/support/song_bench.h"
+#include "tests/support/voice_bench.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,23 +11,9 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class InstrumentDialog : public ::testing::Test {
- protected:
-  InstrumentDialog() {
-    bench.tracks.addinstrutrack();
-    port.open(0);
-    output.calls.clear();
-    bench.flags.modified = false;
-    bench.song.current_track = 2;
-  }
-
-  test::SongBench bench;
-  test::RecordingOutput output;
-  OutputPort port{output, bench.dialogs};
-  Property<std::string> voice_name;
-  VoiceBanks banks = VoiceBanks::parse("GrandPno,0,0\r\nDream,41,0\r\nBritePno,0,1\r\n");
-  VoiceDesk desk{bench.song, bench.flags, port, bench.dialogs, voice_name};
-  VoiceChoice voices{desk, banks};
+struct InstrumentDialog : test::VoiceBench {
+  InstrumentDialog()
+      : VoiceBench(VoiceBanks::parse("GrandPno,0,0\r\nDream,41,0\r\nBritePno,0,1\r\n"), {}) {}
 };
 
 TEST_F(InstrumentDialog, PressingACellPlaysItsVoiceOnChannelSixteen) {

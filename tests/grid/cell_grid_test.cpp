@@ -1,6 +1,6 @@
 #include "grid/cell_grid.h"
 
-#include "grid/runtime_error.h"
+#include "tests/support/error_of.h"
 #include "tests/support/recording_grid_observer.h"
 
 #include <utility>
@@ -27,12 +27,7 @@ using testing::IsEmpty;
 
 template <class Call>
 void expect_subscript_error(Call call) {
-  try {
-    call();
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.number(), RuntimeError::kSubscriptOutOfRange);
-  }
+  EXPECT_EQ(test::error_of(call), RuntimeError::kSubscriptOutOfRange);
 }
 
 TEST(CellRegion, ADefaultRegionIsEmpty) {

@@ -2,6 +2,7 @@
 
 #include "grid/runtime_error.h"
 #include "grid/tracks.h"
+#include "tests/support/error_of.h"
 #include "tests/support/recorded_progress.h"
 #include "tests/support/recording_grid_observer.h"
 #include "tests/support/scripted_dialogs.h"
@@ -329,12 +330,7 @@ TEST_F(SongLengthTest, TheDurationFollowsTempoLengthAndLinesPerBeat) {
 TEST_F(SongLengthTest, LinesPerBeatOfZeroFromADamagedFileDivideByZero) {
   song.number.put("none");
   for (const auto& procedure : {&SongLength::calcultime, &SongLength::numberchange}) {
-    try {
-      (length.*procedure)();
-      FAIL() << "no error";
-    } catch (const RuntimeError& error) {
-      EXPECT_EQ(error.number(), RuntimeError::kDivisionByZero);
-    }
+    EXPECT_EQ(test::error_of([&] { (length.*procedure)(); }), RuntimeError::kDivisionByZero);
   }
   EXPECT_FALSE(progress.visible);
   EXPECT_TRUE(song.tracks.redraw());

@@ -1,6 +1,6 @@
 #include "grid/song.h"
 
-#include "grid/runtime_error.h"
+#include "tests/support/error_of.h"
 #include "tests/support/recording_grid_observer.h"
 
 #include <utility>
@@ -23,12 +23,7 @@ Song empty_song(int track_count, int lines) {
 
 template <class Call>
 void expect_subscript_error(Call call) {
-  try {
-    call();
-    FAIL() << "no error";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.number(), RuntimeError::kSubscriptOutOfRange);
-  }
+  EXPECT_EQ(test::error_of(call), RuntimeError::kSubscriptOutOfRange);
 }
 
 TEST(Song, StartsWithItsCaptionsAndNoTrack) {

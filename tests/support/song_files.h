@@ -1,6 +1,6 @@
 #pragma once
 
-#include "grid/runtime_error.h"
+#include "tests/support/error_of.h"
 #include "tests/support/song_bench.h"
 
 #include <string>
@@ -63,14 +63,8 @@ class SongFiles : public ::testing::Test {
     bench.file.current_name = folder.write("song.lvx", bytes);
     bench.file.procopen();
   }
-  RuntimeError::Number error_of_opening(const Lines& lines) {
-    try {
-      open(lines);
-    } catch (const RuntimeError& error) {
-      return error.number();
-    }
-    ADD_FAILURE() << "no error";
-    return RuntimeError::kFileNotFound;
+  std::optional<RuntimeError::Number> error_of_opening(const Lines& lines) {
+    return error_of([&] { open(lines); });
   }
   std::string saved() {
     bench.file.current_name = folder.file("saved.lvx");

@@ -5,6 +5,8 @@
 #include "tests/support/recording_output.h"
 #include "tests/support/song_bench.h"
 
+#include <utility>
+
 #include <gtest/gtest.h>
 
 namespace lunavox::test {
@@ -12,7 +14,12 @@ namespace lunavox::test {
 /// A song of a drum track and an instrument track, the latter the current one, with the banks and
 /// an output that both voice dialogs work on.
 struct VoiceBench : public ::testing::Test {
-  VoiceBench() {
+  /// With the banks that are shipped.
+  VoiceBench()
+      : VoiceBench(VoiceBanks::read(LUNAVOX_DATA "/instrubank.ini"),
+                   DrumKits::read(LUNAVOX_DATA "/drumbank.ini")) {}
+  VoiceBench(VoiceBanks voice_banks, DrumKits drum_kits)
+      : banks(std::move(voice_banks)), kits(std::move(drum_kits)) {
     bench.tracks.addinstrutrack();
     port.open(0);
     output.calls.clear();
@@ -28,8 +35,8 @@ struct VoiceBench : public ::testing::Test {
   RecordingOutput output;
   OutputPort port{output, bench.dialogs};
   Property<std::string> voice_name;
-  VoiceBanks banks = VoiceBanks::read(LUNAVOX_DATA "/instrubank.ini");
-  DrumKits kits = DrumKits::read(LUNAVOX_DATA "/drumbank.ini");
+  VoiceBanks banks;
+  DrumKits kits;
   VoiceDesk desk{bench.song, bench.flags, port, bench.dialogs, voice_name};
   VoiceChoice voices{desk, banks};
   DrumChoice drums{desk, kits};
