@@ -147,6 +147,8 @@ TEST(Tests, NeverWaitByTheClock) {
       R"(sleep_for|sleep_until|QThread::m?u?sleep|QTest::qWait\(|QTest::qSleep|\bu?sleep\()");
   for (const Line& line : lines_matching({"tests"}, sleep)) {
     if (line.file == "tests/architecture/includes_test.cpp") continue;
+    // No test: it plays in real time while a script in tests/end_to_end takes its ports away.
+    if (line.file == "tests/midi/ports/ports_client.cpp") continue;
     ADD_FAILURE() << shown(line);
   }
 }

@@ -226,6 +226,7 @@ TEST_F(BlocksWindowTest, TheWholeOfALongSongIsTransposedCopiedAndCut) {
   EXPECT_EQ(selection_end(), (CellPosition{3000, 17}));
 
   editor.song.tracks.set_cursor(1, 1);
+  editor.song.tracks.set_top_row(1);
   choose("menupaste");
   EXPECT_EQ(entry(1, 1, 1), "644899");
   EXPECT_EQ(entry(1, 8, 3000), "647F99");
