@@ -15,6 +15,10 @@ namespace {
 constexpr std::size_t kLayoutsKept = 1024;
 constexpr qreal kSideMargin = 2.5;
 constexpr int kNarrowest = 70;  // per cent of the face's own width
+// How much of the accent there is in a ground.
+constexpr qreal kCursorLineShare = 0.1;
+constexpr qreal kSelectionShare = 0.19;
+constexpr qreal kLightCursorShare = 0.3;
 
 QColor blend(const QColor& ground, const QColor& over, qreal share) {
   const auto mix = [share](int a, int b) { return static_cast<int>(a + (b - a) * share); };
@@ -24,13 +28,22 @@ QColor blend(const QColor& ground, const QColor& over, qreal share) {
 
 /// Cells that were given no colour of their own stand on the grid's ground, which is not quite
 /// black.
+QColor own_ground_of(const Cell& cell, const CellSurroundings& around) {
+  if (cell.background != kBlack) return theme::colour(cell.background);
+  return around.beat_line ? theme::kBeatLine : theme::kGrid;
+}
+
+/// The grounds of lines and blocks that are marked stay dark, for the reds and blues of the notes
+/// to be read on them.
 QColor ground_of(const Cell& cell, const CellSurroundings& around) {
-  QColor ground = cell.background == kBlack ? (around.beat_line ? theme::kBeatLine : theme::kGrid)
-                                            : theme::colour(cell.background);
-  if (around.cursor_line) ground = blend(ground, theme::kAccent, 0.13);
-  if (around.selected) ground = blend(ground, theme::kAccent, 0.26);
-  if (around.cursor && around.focused) ground = blend(ground, theme::kAccent, 0.22);
-  return ground;
+  const QColor ground = own_ground_of(cell, around);
+  // A frame stands around the cursor's cell, which a light cell hides.
+  if (around.cursor) {
+    const bool light = cell.background != kBlack && around.focused;
+    return light ? blend(ground, theme::kAccent, kLightCursorShare) : ground;
+  }
+  if (around.selected) return blend(ground, theme::kAccent, kSelectionShare);
+  return around.cursor_line ? blend(ground, theme::kAccent, kCursorLineShare) : ground;
 }
 
 QColor text_colour_of(const Cell& cell, const CellSurroundings& around) {

@@ -106,7 +106,8 @@ Answer QtDialogs::message(const Message& message) {
   if (message.icon == Icon::kCritical) {
     box.setIconPixmap(critical_mark());
     auto* text = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
-    if (text != nullptr) text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // One line of text stands at the mark's middle.
+    if (text != nullptr) text->setMinimumHeight(theme::scaled(kIconSize));
   }
   box.setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel
                               : QMessageBox::StandardButtons(QMessageBox::Ok));

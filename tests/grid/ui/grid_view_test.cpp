@@ -1,5 +1,6 @@
 #include "grid/ui/grid_view.h"
 
+#include "grid/ui/theme.h"
 #include "tests/support/song_parts.h"
 
 #include <QHeaderView>
@@ -83,6 +84,20 @@ TEST_F(GridViewTest, LineNumbersAreBlackAndBeatsRed) {
   EXPECT_EQ(ground_of_line(3), "#000000");
   EXPECT_EQ(ground_of_line(4), "#f00000");
   EXPECT_EQ(ground_of_line(8), "#f00000");
+}
+
+TEST_F(GridViewTest, TheGroundsUnderNotesStayDarkWhereTheyAreMarked) {
+  grid.set_cursor(3, 2);
+  grid.set_selection_end(4, 4);
+  settle();
+  const QImage cells = view.viewport()->grab().toImage();
+  const auto brightest_of = [&](int row, int column) {
+    return cells.pixelColor(view.cell_rect({row, column}).topLeft() + QPoint(3, 3)).value();
+  };
+  EXPECT_EQ(brightest_of(3, 2), theme::kGrid.value()) << "the cursor's cell";
+  EXPECT_NEAR(brightest_of(4, 3), 58, 2) << "a block";
+  EXPECT_NEAR(brightest_of(3, 10), 36, 2) << "the cursor's line";
+  EXPECT_EQ(brightest_of(6, 10), theme::kGrid.value());
 }
 
 TEST_F(GridViewTest, EachTracksColumnsHaveTheirHeadings) {

@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
@@ -50,6 +51,18 @@ TEST(QtDialogs, ACriticalMessageCarriesAMarkAndAnOkButtonOnly) {
   dialogs.error("Invalid value (30-300)");
   answer_box<QMessageBox>(look(false));
   dialogs.message({"Error in sending", "", Icon::kNone, Buttons::kOk, {}});
+}
+
+TEST(QtDialogs, ACriticalMessageOfOneLineStandsAtTheMiddleOfItsMark) {
+  QtDialogs dialogs;
+  answer_box<QMessageBox>([](QMessageBox& box) {
+    const QRect mark = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"))->geometry();
+    const auto& text = *box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    EXPECT_TRUE(text.alignment().testFlag(Qt::AlignVCenter));
+    EXPECT_NEAR(text.geometry().center().y(), mark.center().y(), 2);
+    box.button(QMessageBox::Ok)->click();
+  });
+  dialogs.error("Invalid value (30-300)");
 }
 
 TEST(QtDialogs, AQuestionOffersYesNoAndCancel) {
