@@ -68,7 +68,7 @@ ControlsPanel::ControlsPanel(SkinPictures& skin, ButtonPictures& pictures, Trans
                                  {[&transport] { transport.playnotes_mousedown(); },
                                   [&transport] { transport.playnotes_mouseup(); }},
                                  kTransportButton);
-  play->setToolTip(QStringLiteral("Play and stop (Ctrl key)"));
+  play->setToolTip(QStringLiteral("Play (Ctrl key) and stop"));
   auto* record = new PictureButton(QStringLiteral("recordnotes"), skin, pictures.recordnotes,
                                    {[&recorder] { recorder.recordnotes_mousedown(); },
                                     [&recorder] { recorder.recordnotes_click(); }},
@@ -168,26 +168,38 @@ BookmarkPanel::BookmarkPanel(SkinPictures& skin, ButtonPictures& pictures, Song&
   });
 }
 
+constexpr MiscPanel::CheckBox MiscPanel::kRealtime{
+    "realtime", "Realtime record", "Record in time with the song, after a count-in", 0, 0};
+constexpr MiscPanel::CheckBox MiscPanel::kBegin{
+    "begin", "Play from beginning", "Start at the first line, wherever the cursor is", 0, 1};
+constexpr MiscPanel::CheckBox MiscPanel::kVelocity{
+    "velocity", "Rec velocity", "Keep the velocity that notes are played with", 1, 0};
+constexpr MiscPanel::CheckBox MiscPanel::kCurs{
+    "curs", "Follow the cursor", "Keep the playing line at the top of the grid", 1, 1};
+constexpr MiscPanel::CheckBox MiscPanel::kArea{
+    "area", "Extended area", "Hide the settings and give their room to the notes", 0, 2};
+
 MiscPanel::MiscPanel(Song& song, RecordOptions& options, Property<bool>& area,
                      const Handlers& handlers)
     : Panel(QStringLiteral("Frame10"), QStringLiteral("Misc")) {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(theme::scaled(12));
   grid->setVerticalSpacing(theme::scaled(2));
-  QCheckBox* realtime = add_option(*grid, 0, 0, "realtime", "Realtime record", options.realtime);
+  QCheckBox* realtime = add_option(*grid, kRealtime, options.realtime);
   connect(realtime, &QCheckBox::clicked, this, [shown = handlers.realtime_checked](bool checked) {
     if (checked) shown();
   });
-  add_option(*grid, 0, 1, "begin", "Play from beginning", options.begin);
-  add_option(*grid, 1, 0, "velocity", "Rec velocity", options.velocity);
-  add_option(*grid, 1, 1, "curs", "Follow the cursor", options.curs);
-  QCheckBox* extended = add_check_box(*grid, 0, 2, "area", "Extended area");
+  add_option(*grid, kBegin, options.begin);
+  add_option(*grid, kVelocity, options.velocity);
+  add_option(*grid, kCurs, options.curs);
+  QCheckBox* extended = add_check_box(*grid, kArea);
   follow(area, extended, [extended](bool checked) { extended->setChecked(checked); });
   connect(extended, &QCheckBox::clicked, this, handlers.area);
 
   auto* strength =
       new NumberFieldBox(QStringLiteral("strength"), song.strength, 3, handlers.strength, this);
   strength->on_done(handlers.done);
+  strength->setToolTip(QStringLiteral("Velocity of entered notes (1-127)"));
   strength->setMaximumHeight(theme::scaled(20));
   follow(options.velocity, strength, [strength](bool played) { strength->set_enabled(!played); });
   auto* velocity_row = new QHBoxLayout;
@@ -199,19 +211,18 @@ MiscPanel::MiscPanel(Song& song, RecordOptions& options, Property<bool>& area,
   row().addLayout(grid);
 }
 
-QCheckBox* MiscPanel::add_check_box(QGridLayout& grid, int row, int column, const char* name,
-                                    const char* caption) {
-  auto* box = new QCheckBox(QLatin1String(caption), this);
-  box->setObjectName(QLatin1String(name));
+QCheckBox* MiscPanel::add_check_box(QGridLayout& grid, const CheckBox& plan) {
+  auto* box = new QCheckBox(QLatin1String(plan.caption), this);
+  box->setObjectName(QLatin1String(plan.name));
+  box->setToolTip(QLatin1String(plan.tool_tip));
   box->setFont(theme::caption_font());
   box->setFocusPolicy(Qt::TabFocus);
-  grid.addWidget(box, row, column);
+  grid.addWidget(box, plan.row, plan.column);
   return box;
 }
 
-QCheckBox* MiscPanel::add_option(QGridLayout& grid, int row, int column, const char* name,
-                                 const char* caption, Property<bool>& option) {
-  QCheckBox* box = add_check_box(grid, row, column, name, caption);
+QCheckBox* MiscPanel::add_option(QGridLayout& grid, const CheckBox& plan, Property<bool>& option) {
+  QCheckBox* box = add_check_box(grid, plan);
   follow(option, box, [box](bool checked) { box->setChecked(checked); });
   connect(box, &QCheckBox::toggled, this, [&option](bool checked) { option = checked; });
   return box;

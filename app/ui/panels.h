@@ -84,10 +84,17 @@ class MiscPanel : public Panel {
   MiscPanel(Song& song, RecordOptions& options, Property<bool>& area, const Handlers& handlers);
 
  private:
-  QCheckBox* add_check_box(QGridLayout& grid, int row, int column, const char* name,
-                           const char* caption);
-  QCheckBox* add_option(QGridLayout& grid, int row, int column, const char* name,
-                        const char* caption, Property<bool>& option);
+  struct CheckBox {
+    const char* name;
+    const char* caption;
+    const char* tool_tip;
+    int row;
+    int column;
+  };
+  static const CheckBox kRealtime, kBegin, kVelocity, kCurs, kArea;
+
+  QCheckBox* add_check_box(QGridLayout& grid, const CheckBox& plan);
+  QCheckBox* add_option(QGridLayout& grid, const CheckBox& plan, Property<bool>& option);
 };
 
 }  // namespace lunavox

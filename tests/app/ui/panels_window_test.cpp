@@ -84,6 +84,13 @@ TEST_F(PanelsWindowTest, TheTabKeyWalksFromTheNotesThroughThePanelsInOrder) {
                           "begin", "velocity", "curs", "area", "strength", "effects"));
 }
 
+TEST_F(PanelsWindowTest, EachControlSaysWhatItDoes) {
+  for (const char* name : {"playnotes", "recordnotes", "realtime", "begin", "velocity", "curs",
+                           "area", "Image1", "Image2"}) {
+    EXPECT_FALSE(bench.find<QAbstractButton>(name).toolTip().isEmpty()) << name;
+  }
+}
+
 TEST_F(PanelsWindowTest, ASettingIsMarkedAsSoonAsTheTabKeyComesToThem) {
   auto& effects = static_cast<GridView&>(bench.find<QTableView>("effects"));
   bench.window.focus_tracks();
