@@ -225,6 +225,7 @@ TEST_F(BlocksWindowTest, TheWholeOfALongSongIsTransposedCopiedAndCut) {
   EXPECT_EQ(cursor(), (CellPosition{1, 10}));
   EXPECT_EQ(selection_end(), (CellPosition{3000, 17}));
 
+  QTest::keyClick(&tracks, Qt::Key_Home);
   editor.song.tracks.set_cursor(1, 1);
   editor.song.tracks.set_top_row(1);
   choose("menupaste");
