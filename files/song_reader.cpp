@@ -89,7 +89,8 @@ void SongReader::read_effects_column(int column) {
   if (version_ >= kFirstWithPitch) {
     write_setting(column, kPitch, fields_.text());
   } else {
-    write_setting(column, kPitch, setting_of_effects_column(column) == Setting::kStartValue ? "64" : "no");
+    write_setting(column, kPitch,
+                  setting_of_effects_column(column) == Setting::kStartValue ? "64" : "no");
   }
 }
 

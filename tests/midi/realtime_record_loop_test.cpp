@@ -1,4 +1,5 @@
 #include "midi/realtime_record_loop.h"
+
 #include "tests/support/studio.h"
 
 #include <gtest/gtest.h>
