@@ -57,6 +57,7 @@ InstrumentDialog::InstrumentDialog(VoiceChoice& choice, QWidget* parent)
                              [this] { choice_.instrulist_mouseup(); },
                              [this] { show_selected(); }});
   details_->setObjectName(QStringLiteral("details"));
+  details_->setTextFormat(Qt::PlainText);
   auto* hint =
       new QLabel(QStringLiteral("Type a name to find a voice, hold Space to hear it"), this);
   hint->setProperty("caption", true);

@@ -22,6 +22,13 @@ bool is_letter(const QKeyEvent& event) {
   return modifiers == Qt::NoModifier && !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
+/// A character may take several bytes.
+std::string without_last_character(const std::string& text) {
+  QString characters = QString::fromStdString(text);
+  characters.chop(!characters.isEmpty() && characters.back().isLowSurrogate() ? 2 : 1);
+  return characters.toStdString();
+}
+
 /// A key that only changes what others mean, as Shift does for a capital letter.
 bool is_modifier(const QKeyEvent& event) {
   const bool modifier = event.key() >= Qt::Key_Shift && event.key() <= Qt::Key_ScrollLock;
@@ -106,7 +113,7 @@ void VoiceTable::keyReleaseEvent(QKeyEvent* event) {
 
 bool VoiceTable::take_search_key(const QKeyEvent& event) {
   if (event.key() == Qt::Key_Backspace && !sought_.empty()) {
-    sought_.pop_back();
+    sought_ = without_last_character(sought_);
     search(SearchFrom::kHere);
   } else if (event.key() == Qt::Key_F3 && !sought_.empty()) {
     search(SearchFrom::kNext);

@@ -322,6 +322,19 @@ TEST_F(VoiceDialog, AVoiceIsFoundByTypingItsName) {
   EXPECT_EQ(selected(), "PanFlute");
 }
 
+TEST_F(VoiceDialog, BackspaceTakesBackAWholeCharacterOfTheName) {
+  QKeyEvent typed(QEvent::KeyPress, Qt::Key_Eacute, {}, QStringLiteral("\u00e9"));
+  QCoreApplication::sendEvent(&instrulist, &typed);
+  EXPECT_TRUE(details.text().contains(QStringLiteral("\u00e9")));
+  press_key(dialog, Qt::Key_Backspace);
+  EXPECT_FALSE(details.text().contains(QStringLiteral("Find"))) << details.text().toStdString();
+}
+
+TEST_F(VoiceDialog, WhatIsTypedIsShownAsItIsTyped) {
+  test::type(dialog, "<b>");
+  EXPECT_EQ(details.textFormat(), Qt::PlainText);
+}
+
 TEST_F(VoiceDialog, F3GoesOnToTheNextVoiceOfThatName) {
   test::type(dialog, "harps");
   EXPECT_EQ(selected(), "Harpsi.");
