@@ -112,6 +112,7 @@ void render_song(const CommandLine& line, const Headless& world) {
   headless.open_song(line.song);
   AudioFile file(line.result_file, synth.sample_rate());
   SongPlayer(headless.editor()).play_through(clock, [&](std::uint32_t ms) {
+    if (world.stop) throw RunError("interrupted");
     file.write(synth.render_until(ms));
   });
   render_tail(synth, file);

@@ -123,6 +123,13 @@ TEST_F(HeadlessRun, AStopBeforeTheFirstLineStillResetsTheChannels) {
   EXPECT_EQ(sent.back(), 0x4048BEU);
 }
 
+TEST_F(HeadlessRun, AStopEndsARenderingToo) {
+  write_song("in.lvx");
+  stop_ = true;
+  EXPECT_EQ(run({"--render", path("out.wav"), path("in.lvx")}), 1);
+  EXPECT_EQ(errors_.str(), "lunavox: interrupted\n");
+}
+
 TEST_F(HeadlessRun, AnOutputThatIsNotThereIsOneLine) {
   write_song("in.lvx");
   EXPECT_EQ(run({"--play", path("in.lvx"), "--output", "organ"}), 1);
