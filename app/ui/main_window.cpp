@@ -129,9 +129,9 @@ void MainWindow::focus_tracks() {
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   const auto* widget = qobject_cast<QWidget*>(watched);
   if (widget == nullptr || widget->window() != this) return false;
+  if (event->type() == QEvent::WindowBlocked) box_came_ = true;
   if (event->type() == QEvent::KeyPress) preview_key(*static_cast<QKeyEvent*>(event));
-  if (event->type() == QEvent::MouseButtonPress) leave_field_for(*widget);
-  return false;
+  return event->type() == QEvent::MouseButtonPress && leave_field_for(*widget);
 }
 
 void MainWindow::preview_key(const QKeyEvent& event) {
@@ -139,11 +139,15 @@ void MainWindow::preview_key(const QKeyEvent& event) {
 }
 
 // A click anywhere else leaves a text box, also where what is clicked takes no keys: the text
-// counts before the click does.
-void MainWindow::leave_field_for(const QWidget& pressed) {
+// counts before the click does. Where a box refuses the text, the click ends with it: the button's
+// release went to the box, and what was pressed would stay so.
+bool MainWindow::leave_field_for(const QWidget& pressed) {
   const QWidget* focus = focusWidget();
   const bool in_field = qobject_cast<const QLineEdit*>(focus) != nullptr;
-  if (in_field && focus != &pressed && !focus->isAncestorOf(&pressed)) focus_tracks();
+  if (!in_field || focus == &pressed || focus->isAncestorOf(&pressed)) return false;
+  box_came_ = false;
+  focus_tracks();
+  return box_came_;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -78,7 +78,8 @@ class MainWindow : public QMainWindow, private CellGridObserver {
   void add_panels(PanelStrip& strip);
   void add_number_panels(PanelStrip& strip);
   void preview_key(const QKeyEvent& event);
-  void leave_field_for(const QWidget& pressed);
+  /// @return true where a box came up and went meanwhile
+  bool leave_field_for(const QWidget& pressed);
   void show_cursor();
   void show_devices();
   void restore_place();
@@ -92,6 +93,7 @@ class MainWindow : public QMainWindow, private CellGridObserver {
   WindowCommands commands_;
   SongGrids* grids_;
   StatusLine* status_;
+  bool box_came_ = false;
 };
 
 }  // namespace lunavox

@@ -133,6 +133,7 @@ VoicePanel::VoicePanel(Property<std::string>& voice_name)
     : Panel(QStringLiteral("Frame12"), QStringLiteral("Voice")) {
   auto* label = new QLabel(this);
   label->setObjectName(QStringLiteral("voicename"));
+  label->setTextFormat(Qt::PlainText);
   label->setFont(theme::cell_font(theme::scaled(13)));
   label->setFixedWidth(theme::scaled(84));
   row().addWidget(label);

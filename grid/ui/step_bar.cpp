@@ -73,8 +73,10 @@ void StepBar::mouseReleaseEvent(QMouseEvent* event) {
 
 void StepBar::wheelEvent(QWheelEvent* event) {
   event->accept();
-  const int turn = event->angleDelta().y();
-  if (turn != 0) triggerAction(turn > 0 ? SliderSingleStepAdd : SliderSingleStepSub);
+  wheel_rest_ += event->angleDelta().y();
+  const int steps = wheel_rest_ / QWheelEvent::DefaultDeltasPerStep;
+  wheel_rest_ -= steps * QWheelEvent::DefaultDeltasPerStep;
+  if (steps != 0) setValue(value() + steps);
 }
 
 }  // namespace lunavox

@@ -1,5 +1,6 @@
 #include "app/ui/song_views.h"
 #include "grid/ui/picture_button.h"
+#include "tests/support/shown_boxes.h"
 #include "window_bench.h"
 
 #include <QAbstractItemView>
@@ -10,7 +11,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -193,6 +196,22 @@ TEST_F(MainWindowTest, ABadEntryIsToldAndTheLastTextReturns) {
   EXPECT_EQ(field("bpm").text().toStdString(), "120");
 }
 
+/// The button is released over the box, which takes the release for itself.
+TEST_F(MainWindowTest, AClickThatLeavesABadEntryEndsWithItsMessage) {
+  WindowBench shown(1, LayoutSet::kQwerty, {}, WindowBench::Boxes::kShown);
+  test::ShownBoxes boxes;
+  boxes.next<QMessageBox>([](QMessageBox& box) { box.accept(); });
+  auto& bpm = shown.find<QLineEdit>("bpm");
+  bpm.setFocus();
+  bpm.setText(QStringLiteral("301"));
+  auto& play = shown.find<QAbstractButton>("playnotes");
+  QTest::mousePress(&play, Qt::LeftButton);
+  EXPECT_EQ(static_cast<PictureButton&>(play).picture(), "play1") << "it would stay pressed";
+  EXPECT_EQ(bpm.text().toStdString(), "120");
+  QTest::mouseClick(&play, Qt::LeftButton);
+  EXPECT_TRUE(shown.editor.flags.playing);
+}
+
 TEST_F(MainWindowTest, TheScrollBarsWriteTheirFields) {
   bench.find<QScrollBar>("numbers").setValue(8);
   EXPECT_EQ(field("number").text().toStdString(), "8");
@@ -208,6 +227,19 @@ TEST_F(MainWindowTest, TheUpperHalfOfAScrollBarMakesTheNumberLarger) {
   EXPECT_EQ(editor.song.bpm.text(), "121");
   QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(bar.width() / 2, bar.height() - 2));
   EXPECT_EQ(editor.song.bpm.text(), "120");
+}
+
+TEST_F(MainWindowTest, ASmoothlyTurnedWheelStepsANumberOnceForEachNotch) {
+  QScrollBar& bar = bench.find<QScrollBar>("bpms");
+  const auto turn = [&bar](int eighths_of_a_degree) {
+    QWheelEvent event({2, 2}, bar.mapToGlobal(QPointF(2, 2)), {}, {0, eighths_of_a_degree},
+                      Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&bar, &event);
+  };
+  for (int i = 0; i < 16; ++i) turn(15);
+  EXPECT_EQ(editor.song.bpm.text(), "122");
+  turn(-120);
+  EXPECT_EQ(editor.song.bpm.text(), "121");
 }
 
 TEST_F(MainWindowTest, RecordedVelocityTakesTheStrengthFieldAway) {
