@@ -6,18 +6,19 @@
 #include <QCoreApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPointer>
 #include <QTimer>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lunavox {
 namespace {
 
 // Until the first one has been timed.
 constexpr int kUsualRepaintMs = 8;
-// Nothing in the window waits longer.
-constexpr int kLongestWaitMs = 20;
+// What takes longer than this, or an unknown time, waits for no line that is further away.
+constexpr int kLongestRepaintMs = 30;
+constexpr int kUnknownWorkMs = 20;
 // By how much a repaint is expected to take less than the one before. While a window is resized,
 // one in a few dozen takes far longer than the others, and is to be reckoned with.
 constexpr double kDecayMs = 1.0 / 16;
@@ -52,7 +53,7 @@ LineRoom::~LineRoom() {
 }
 
 void LineRoom::before_long_work() {
-  driver_.make_room(kLongestWaitMs);
+  driver_.make_room(kUnknownWorkMs);
 }
 
 bool LineRoom::eventFilter(QObject* receiver, QEvent* event) {
@@ -63,22 +64,28 @@ bool LineRoom::eventFilter(QObject* receiver, QEvent* event) {
     return true;
   }
   if (!shows_anew(*receiver, event->type())) return false;
+  repaint_held_back();
   driver_.make_room(expected_ms(event->type()));
   repaint(*receiver, *event);
   return true;
 }
 
-// No line is played here: a handler that is under way may have asked to paint at once. What is late
-// already is not made better by waiting.
+// No line is played here: a handler that is under way may have asked to paint at once.
 bool LineRoom::hold_back(QWidget& window) {
   const auto left = driver_.left_ms();
-  if (!left || *left < 0 || *left > expected_ms(QEvent::UpdateRequest)) return false;
-  QTimer::singleShot(*left, Qt::PreciseTimer, &window,
-                     [this, room = QPointer<LineRoom>(this), &window] {
-                       QEvent request(QEvent::UpdateRequest);
-                       if (room) repaint(window, request);
-                     });
+  if (!left || *left > expected_ms(QEvent::UpdateRequest)) return false;
+  held_back_.emplace_back(&window);
+  QTimer::singleShot(std::max(*left, 0), Qt::PreciseTimer, this, [this] { repaint_held_back(); });
   return true;
+}
+
+// A resize may come between the line that was waited for and this, and the next line be as close.
+void LineRoom::repaint_held_back() {
+  for (const QPointer<QWidget>& window : std::exchange(held_back_, {})) {
+    driver_.make_room(expected_ms(QEvent::UpdateRequest));
+    QEvent request(QEvent::UpdateRequest);
+    if (window) repaint(*window, request);
+  }
 }
 
 int LineRoom::expected_ms(QEvent::Type type) const {
@@ -94,7 +101,7 @@ void LineRoom::repaint(QObject& window, QEvent& event) {
   QCoreApplication::sendEvent(&window, &event);
   const double taken = elapsed_ms(start, clock_.timeGetTime()) + 1;
   double& expected = expected_ms_.try_emplace(event.type(), kUsualRepaintMs).first->second;
-  expected = std::min<double>(std::max(taken, expected - kDecayMs), kLongestWaitMs);
+  expected = std::min<double>(std::max(taken, expected - kDecayMs), kLongestRepaintMs);
 }
 
 }  // namespace lunavox

@@ -4,9 +4,10 @@
 
 #include <QEvent>
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 #include <map>
-
-class QWidget;
+#include <vector>
 
 namespace lunavox {
 
@@ -28,11 +29,13 @@ class LineRoom : public QObject {
 
  private:
   bool hold_back(QWidget& window);
+  void repaint_held_back();
   int expected_ms(QEvent::Type type) const;
   void repaint(QObject& window, QEvent& event);
 
   LoopDriver& driver_;
   Clock& clock_;
+  std::vector<QPointer<QWidget>> held_back_;
   std::map<QEvent::Type, double> expected_ms_;  // what repaints took lately
   bool repainting_ = false;
 };

@@ -16,8 +16,8 @@ namespace {
 
 /// What is shown, written down, and how long that takes.
 struct Paint {
-  void operator()() {
-    story += "paint ";
+  void operator()(const char* what) {
+    story += what;
     clock.advance(takes_ms);
   }
 
@@ -33,7 +33,7 @@ class ChangedWindow : public QWidget {
 
  protected:
   bool event(QEvent* event) override {
-    if (event->type() == QEvent::UpdateRequest) paint_();
+    if (event->type() == QEvent::UpdateRequest) paint_("paint ");
     return QWidget::event(event);
   }
 
@@ -47,7 +47,7 @@ class ResizedWindow : public QWindow {
   explicit ResizedWindow(Paint& paint) : paint_(paint) {}
 
  protected:
-  void resizeEvent(QResizeEvent* /*event*/) override { paint_(); }
+  void resizeEvent(QResizeEvent* /*event*/) override { paint_("resize "); }
 
  private:
   Paint& paint_;
@@ -69,6 +69,14 @@ struct LineRoomTest : testing::Test {
   void repaint() {
     QEvent event(QEvent::UpdateRequest);
     QCoreApplication::sendEvent(&changed, &event);
+  }
+  void choose_in_menu() {
+    QMenu menu;
+    QObject::connect(menu.addAction(QStringLiteral("Save as")), &QAction::triggered, &menu,
+                     [this] { story += "command "; });
+    menu.popup({});
+    menu.setActiveAction(menu.actions().first());
+    QTest::keyClick(&menu, Qt::Key_Return);
   }
   /// Lets the editor learn what painting takes.
   void paint_often(std::uint32_t takes_ms, int times = 30) {
@@ -96,14 +104,14 @@ TEST_F(LineRoomTest, AResizeThatWouldNotEndBeforeTheNextLineComesAfterIt) {
   paint_often(12);
   line_in(12);
   resize();
-  EXPECT_EQ(story, "line paint ");
+  EXPECT_EQ(story, "line resize ");
 }
 
 TEST_F(LineRoomTest, AResizeThatEndsBeforeTheNextLineDoesNotWaitForIt) {
   paint_often(12);
   line_in(14);
   resize();
-  EXPECT_EQ(story, "paint ");
+  EXPECT_EQ(story, "resize ");
 }
 
 TEST_F(LineRoomTest, ARepaintThatWouldNotEndBeforeTheNextLineIsHeldBackUntilAfterIt) {
@@ -125,11 +133,47 @@ TEST_F(LineRoomTest, ARepaintThatEndsBeforeTheNextLineIsDoneAtOnce) {
   EXPECT_EQ(story, "paint ");
 }
 
-TEST_F(LineRoomTest, ALineThatIsLateAlreadyHoldsNoRepaintBack) {
+TEST_F(LineRoomTest, ALineThatIsLateAlreadyComesBeforeARepaint) {
   paint_often(12);
   line_in(-1);
   repaint();
-  EXPECT_EQ(story, "paint ");
+  EXPECT_EQ(story, "");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return story.size() > 5; }));
+  EXPECT_EQ(story, "line paint ");
+}
+
+/// Resizes that follow each other fill all the room between lines.
+TEST_F(LineRoomTest, ARepaintThatWasHeldBackComesBeforeTheNextResize) {
+  paint_often(12);
+  line_in(5);
+  repaint();
+  line_in(25);
+  resize();
+  EXPECT_EQ(story, "paint line resize ");
+  QTest::qWait(10);
+  EXPECT_EQ(story, "paint line resize ") << "once";
+}
+
+TEST_F(LineRoomTest, ARepaintThatWasHeldBackDoesNotDelayTheLineAfterThatEither) {
+  paint_often(12);
+  line_in(5);
+  repaint();
+  line_in(12);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return story.size() > 5; }));
+  EXPECT_EQ(story, "line paint ");
+}
+
+TEST_F(LineRoomTest, AWindowThatIsGoneIsNotRepainted) {
+  paint_often(12);
+  line_in(5);
+  {
+    ChangedWindow gone(paint);
+    QEvent event(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&gone, &event);
+  }
+  line_in(25);
+  resize();
+  EXPECT_EQ(story, "resize ");
 }
 
 TEST_F(LineRoomTest, PaintingThatHasBecomeQuickerWaitsForLess) {
@@ -139,7 +183,7 @@ TEST_F(LineRoomTest, PaintingThatHasBecomeQuickerWaitsForLess) {
   resize();
   line_in(3);
   repaint();
-  EXPECT_EQ(story, "paint paint ");
+  EXPECT_EQ(story, "resize paint ");
 }
 
 TEST_F(LineRoomTest, ARepaintThatWasFarSlowerThanTheOthersIsReckonedWithForAWhile) {
@@ -148,33 +192,34 @@ TEST_F(LineRoomTest, ARepaintThatWasFarSlowerThanTheOthersIsReckonedWithForAWhil
   paint_often(2);
   line_in(10);
   resize();
-  EXPECT_EQ(story, "line paint ");
+  EXPECT_EQ(story, "line resize ");
 }
 
-TEST_F(LineRoomTest, NothingWaitsLongerThanTwentyMilliseconds) {
+TEST_F(LineRoomTest, NoRepaintWaitsLongerThanThirtyMilliseconds) {
   paint_often(100);
-  line_in(21);
+  line_in(31);
   resize();
-  line_in(21);
+  line_in(31);
   repaint();
-  EXPECT_EQ(story, "paint paint ");
+  EXPECT_EQ(story, "resize paint ");
 }
 
 TEST_F(LineRoomTest, WithoutLinesEverythingIsPaintedOnceAndAtOnce) {
   resize();
   repaint();
-  EXPECT_EQ(story, "paint paint ");
+  EXPECT_EQ(story, "resize paint ");
 }
 
 TEST_F(LineRoomTest, WhatAMenuBeginsComesAfterALineThatIsDueSoon) {
-  QMenu menu;
-  QObject::connect(menu.addAction(QStringLiteral("Save as")), &QAction::triggered, &menu,
-                   [this] { story += "command "; });
-  menu.popup({});
-  menu.setActiveAction(menu.actions().first());
   line_in(20);
-  QTest::keyClick(&menu, Qt::Key_Return);
+  choose_in_menu();
   EXPECT_EQ(story, "line command ");
+}
+
+TEST_F(LineRoomTest, WhatAMenuBeginsWaitsForNoLineThatIsFurtherAway) {
+  line_in(21);
+  choose_in_menu();
+  EXPECT_EQ(story, "command ");
 }
 
 }  // namespace
