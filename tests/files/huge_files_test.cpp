@@ -22,13 +22,13 @@ constexpr std::size_t kMegabyte = 1U << 20U;
 
 // The sanitizers' own bookkeeping takes many times what it watches.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr long kMostKilobytes = 1L << 30;
+constexpr long kMostKilobytes = 1024 * 1024;
 #else
 constexpr long kMostKilobytes = 200 * 1024;
 #endif
 
 /// Opens a song in a process of its own.
-/// @return the number of the error, 0 for none; -1 where it took over 200 MB
+/// @return the number of the error, 0 for none; -1 where it took more memory than a song may
 int error_of_opening(const std::string& name) {
   const pid_t child = ::fork();
   if (child == 0) {

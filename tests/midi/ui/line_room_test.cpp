@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QResizeEvent>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -150,7 +151,9 @@ TEST_F(LineRoomTest, ARepaintThatWasHeldBackComesBeforeTheNextResize) {
   line_in(25);
   resize();
   EXPECT_EQ(story, "paint line resize ");
-  QTest::qWait(10);
+  bool later = false;
+  QTimer::singleShot(5, [&later] { later = true; });
+  ASSERT_TRUE(QTest::qWaitFor([&later] { return later; }));
   EXPECT_EQ(story, "paint line resize ") << "once";
 }
 
