@@ -27,10 +27,14 @@ class Session {
   int actions_ = 0;
 };
 
-/// Replays a script in an editor of its own.
+/// Replays a script in an editor and a process of its own.
 Outcome replay(const Script& script);
 
-/// What a failure of a test says of a script that fails.
-std::string failure_text(Script script);
+/// The shortest script that is found to fail, and how it does, for who reads of a failure. Takes
+/// its time, minutes at most: what is known already is better told before.
+std::string failure_text(const Script& script);
+
+/// The same of a script that has become long, round after round.
+std::string failure_text_of_rounds(const Script& script);
 
 }  // namespace lunavox::test

@@ -16,6 +16,16 @@ Script without(const Script& script, std::size_t first, std::size_t count) {
   return rest;
 }
 
+/// The last rounds of a script; all of it where it has fewer.
+Script last_rounds(const Script& script, std::size_t rounds) {
+  std::size_t begin = script.size();
+  for (std::size_t round = 0; round < rounds && begin > 0; ++round) {
+    --begin;  // the tidy-up that ends it
+    while (begin > 0 && script[begin - 1].deed != Deed::kTidyUp) --begin;
+  }
+  return {script.begin() + static_cast<std::ptrdiff_t>(begin), script.end()};
+}
+
 /// Takes a shorter script if it still fails, up to where it does.
 bool take_if_failing(Script& script, Script shorter, const Replay& replay) {
   const Outcome outcome = replay(shorter);
@@ -58,6 +68,26 @@ Script shortest_script(Script script, const Replay& replay) {
   while (leave_out_chunks(script, 1, replay) || leave_out_pair(script, replay)) {
   }
   return script;
+}
+
+Replay for_a_while(const Replay& replay, std::chrono::milliseconds time) {
+  using Clock = std::chrono::steady_clock;
+  return [replay, end = Clock::now() + time](const Script& script) {
+    return Clock::now() < end ? replay(script) : Outcome{};
+  };
+}
+
+Script failing_end(const Script& script, const Replay& replay, std::size_t most) {
+  for (std::size_t rounds = 1;; rounds *= 2) {
+    Script end = last_rounds(script, rounds);
+    if (end.size() > most) return {};
+    const Outcome outcome = replay(end);
+    if (!outcome.wrong.empty()) {
+      end.resize(outcome.actions);
+      return end;
+    }
+    if (end.size() == script.size()) return {};
+  }
 }
 
 std::string as_text(const Script& script) {
