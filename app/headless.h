@@ -14,7 +14,7 @@ struct Headless {
   InputDevices& inputs;           ///< of the machine, for --list-devices
   std::ostream& results;          ///< standard output
   std::ostream& errors;           ///< standard error
-  const std::atomic<bool>& stop;  ///< set by Ctrl-C
+  const std::atomic<bool>& stop;  ///< set by Ctrl-C and the like
 };
 
 /// Does what the command line asks for in any mode but kEdit. No display is needed.

@@ -20,6 +20,16 @@ void interrupt(int) {
   interrupted = true;
 }
 
+/// Has the run ended in good order by Ctrl-C, by a wish that the program end, and by its terminal's
+/// being closed, unless the run was started so as to outlive that (nohup).
+void handle_signals() {
+  std::signal(SIGINT, interrupt);
+  std::signal(SIGTERM, interrupt);
+#ifdef SIGHUP
+  if (std::signal(SIGHUP, interrupt) == SIG_IGN) std::signal(SIGHUP, SIG_IGN);
+#endif
+}
+
 int edit(const CommandLine& line, OutputDevices& outputs, InputDevices& inputs) {
   LoggedOutputs logged(outputs, line.midi_log);
   return run_window(line, logged.get(), inputs);
@@ -29,8 +39,7 @@ int run(const CommandLine& line) {
   SystemOutputDevices outputs(line.soundfont);
   SystemInputDevices inputs;
   if (line.mode == Mode::kEdit) return edit(line, outputs, inputs);
-  std::signal(SIGINT, interrupt);
-  std::signal(SIGTERM, interrupt);
+  handle_signals();
   return run_headless(line, {outputs, inputs, std::cout, std::cerr, interrupted});
 }
 

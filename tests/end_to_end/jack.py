@@ -39,13 +39,20 @@ def end_with_parent():
     ctypes.CDLL(None).prctl(set_parent_death_signal, signal.SIGKILL)
 
 
+def begin_as_child():
+    """Lets a terminal's end reach the calling child process, where the test is to outlive one too
+    (nohup)."""
+    signal.signal(signal.SIGHUP, signal.SIG_DFL)
+    end_with_parent()
+
+
 class Process:
     """A child process whose output lines are gathered as they come."""
 
     def __init__(self, command, environment):
         self.command = command
         self.process = subprocess.Popen(
-            command, env=environment, text=True, bufsize=1, preexec_fn=end_with_parent,
+            command, env=environment, text=True, bufsize=1, preexec_fn=begin_as_child,
             stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         self.lines, self.errors = [], []
         self._readers = [self._reader(self.process.stdout, self.lines),

@@ -29,8 +29,8 @@ class JackPlayback(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.log = os.path.join(folder.name, "midi.log")
 
-    def play_to(self, listener):
-        return self.server.run(LUNAVOX, "--output", listener.PORT, "--midi-log", self.log,
+    def play_to(self, listener, *how):
+        return self.server.run(*how, LUNAVOX, "--output", listener.PORT, "--midi-log", self.log,
                                "--play", SONG)
 
     def assert_ended_well(self, player):
@@ -69,15 +69,38 @@ class JackPlayback(unittest.TestCase):
         self.assertEqual(monitor.messages()[:monitor.MOST], RESET[:monitor.MOST])
 
     def test_an_interrupt_ends_the_playing_with_the_reset(self):
+        self.check_ended_by(signal.SIGINT)
+
+    def test_a_wish_that_it_end_ends_the_playing_with_the_reset(self):
+        self.check_ended_by(signal.SIGTERM)
+
+    def test_the_end_of_its_terminal_ends_the_playing_with_the_reset(self):
+        self.check_ended_by(signal.SIGHUP)
+
+    def check_ended_by(self, interrupt):
         recorder = self.server.recorder(RECORDER)
         player = self.play_to(recorder)
         jack.wait_until(lambda: first_note(recorder.messages()), "note")
-        player.signal(signal.SIGINT)
+        player.signal(interrupt)
         self.assert_ended_well(player)
         sent = midi_log.wire(self.log)
         received = recorder.wait_for(len(sent))[:len(sent)]
         self.assertEqual(received, sent)
         self.assertEqual(received[-len(RESET):], RESET)
+
+    def test_a_player_that_is_to_outlive_its_terminal_plays_on(self):
+        recorder = self.server.recorder(RECORDER)
+        player = self.play_to(recorder, "nohup")
+
+        def notes():
+            return sum(map(is_note, recorder.messages()))
+
+        jack.wait_until(notes, "note")
+        player.signal(signal.SIGHUP)
+        before = notes()
+        jack.wait_until(lambda: notes() > before + 20, "notes after the terminal's end")
+        player.signal(signal.SIGINT)
+        self.assert_ended_well(player)
 
     def test_a_server_that_dies_does_not_take_the_player_with_it(self):
         recorder = self.server.recorder(RECORDER)
