@@ -215,9 +215,11 @@ void WindowShell::end_at_once() {
 void WindowShell::end_on_fault(const std::string& text) {
   if (ended_) return;
   ended_ = 1;
+  // First: whatever may still go wrong with the ports, the song is safe.
+  const std::string kept = kept_song();
   // Nothing sounds on while the message stands, nor after the end.
   editor_->close_ports();
-  dialogs_.error(text + "\n\nLunavox has to end." + kept_song());
+  dialogs_.error(text + "\n\nLunavox has to end." + kept);
   // Last: no box can be shown any more after it.
   end(1);
 }

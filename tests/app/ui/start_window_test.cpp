@@ -195,6 +195,25 @@ TEST_F(StartWindowTest, AFaultSilencesTheOutputBeforeItsMessageAndClosesThePorts
   EXPECT_EQ(shell.ended(), 1);
 }
 
+TEST_F(StartWindowTest, AtAFaultTheSongIsKeptBeforeAnyPortIsTouched) {
+  remember("input=0\r\nboot=1\r\n");
+  shell.start("");
+  shell.editor().flags.modified = true;
+  const auto kept = [this] {
+    for (const auto& file : std::filesystem::directory_iterator(home.path() / "state")) {
+      if (file.path().filename().string().starts_with("recovery-") && file.file_size() > 0) {
+        return true;
+      }
+    }
+    return false;
+  };
+  EXPECT_FALSE(kept());
+  std::vector<bool> kept_at_calls;
+  inputs.on_call = [&] { kept_at_calls.push_back(kept()); };
+  shell.end_on_fault("Overflow");
+  EXPECT_THAT(kept_at_calls, ElementsAre(true, true, true));
+}
+
 /// An input on which a message arrives at the last moment, while it is being closed.
 struct LateInputs : InputDevices {
   struct Device : NullInputDevice {
