@@ -61,6 +61,8 @@ void Editor::tie_song() {
 }
 
 void Editor::tie_devices() {
+  // Whoever holds a key there cannot let go of it any more.
+  input.on_gone([this] { received.end_all(); });
   outputdev.set_hooks({[this] { input.close(); }, [this] { end_for_want_of_a_device(); }});
 }
 

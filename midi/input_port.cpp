@@ -1,5 +1,7 @@
 #include "midi/input_port.h"
 
+#include <utility>
+
 namespace lunavox {
 namespace {
 
@@ -36,6 +38,8 @@ void InputPort::reset() {
 
 void InputPort::look_after() {
   if (device_) device_->look_after();
+  const bool was_gone = std::exchange(gone_, !status().empty());
+  if (gone_ && !was_gone && on_gone_) on_gone_();
 }
 
 std::string InputPort::status() const {

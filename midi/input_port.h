@@ -3,6 +3,7 @@
 #include "midi/devices.h"
 #include "midi/note_queue.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -25,6 +26,8 @@ class InputPort {
   void reset();
   /// Takes a device up again that was gone and has come back.
   void look_after();
+  /// Told by look_after() when the open device has gone away, once each time.
+  void on_gone(std::function<void()> told) { on_gone_ = std::move(told); }
 
   /// One sentence when the open device has gone away, else empty.
   std::string status() const;
@@ -33,6 +36,8 @@ class InputPort {
   InputDevices& devices_;
   NoteQueue& queue_;
   std::unique_ptr<InputDevice> device_;
+  std::function<void()> on_gone_;
+  bool gone_ = false;  // as look_after() last saw it
 };
 
 }  // namespace lunavox

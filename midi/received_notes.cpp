@@ -4,6 +4,8 @@
 #include "midi/pass_guard.h"
 #include "midi/short_message.h"
 
+#include <utility>
+
 namespace lunavox {
 namespace {
 
@@ -54,6 +56,13 @@ void ReceivedNotes::handle(std::uint32_t packed, Move move) {
   port_.send(pitch_bend(song_.channel.at(song_.current_track), kPitchCentre));
   port_.send(message);
   if (flags_.recording && note && has_velocity(message)) record(message, move);
+}
+
+void ReceivedNotes::end_all() {
+  for (std::uint32_t note = 0; note < sounding_.size(); ++note) {
+    const int channel = std::exchange(sounding_[note], kNothing);
+    if (channel != kNothing) port_.send(note_end(note, channel_nibble(channel)));
+  }
 }
 
 std::uint32_t ReceivedNotes::on_current_track(std::uint32_t packed) const {

@@ -26,6 +26,8 @@ class ReceivedNotes {
   void handle_waiting(Move move);
   /// Handles one packed message.
   void handle(std::uint32_t packed, Move move);
+  /// Ends every note that was received and still sounds.
+  void end_all();
 
  private:
   std::uint32_t on_current_track(std::uint32_t packed) const;

@@ -219,6 +219,20 @@ TEST(Editor, ClosingStopsAndResetsTheInputThenTheOutputAndClosesBoth) {
   EXPECT_EQ(bench.output.calls[1].kind, Call::kClose);
 }
 
+TEST(Editor, ANoteIsEndedWhenTheInputThatItIsHeldOnGoesAway) {
+  EditorBench bench;
+  bench.inputs.device_names = {"Keys"};
+  bench.folder.write("lvconfig.ini", "input=0\r\nboot=1\r\n");
+  bench.start();
+  bench.inputs.play(0x643C90);
+  bench.editor.listen.pass(bench.clock.timeGetTime());
+  bench.output.calls.clear();
+  bench.inputs.trouble = "Keys is gone.";
+  bench.editor.input.look_after();
+  bench.editor.input.look_after();
+  EXPECT_EQ(bench.output.shorts(), (std::vector<std::uint32_t>{0x3C99}));
+}
+
 TEST(Editor, ATrackThatIsAddedShowsItsCurveAndSendsItsVoice) {
   EditorBench bench;
   bench.start();

@@ -19,6 +19,7 @@ class PlayedInputs : public InputDevices {
 
   std::vector<std::string> calls;
   InputCallback callback;
+  std::string trouble;
 
  private:
   class Device : public InputDevice {
@@ -28,7 +29,7 @@ class PlayedInputs : public InputDevices {
     void start() override { owner_.calls.emplace_back("start"); }
     void stop() override { owner_.calls.emplace_back("stop"); }
     void reset() override { owner_.calls.emplace_back("reset"); }
-    std::string status() const override { return "Keyboard is gone."; }
+    std::string status() const override { return owner_.trouble; }
     void look_after() override { owner_.calls.emplace_back("look after"); }
 
    private:
@@ -85,7 +86,25 @@ TEST_F(InputPortTest, ADeviceThatCannotBeOpenedLeavesNothingOpen) {
 
 TEST_F(InputPortTest, ADeviceThatHasGoneIsTold) {
   port.open(0);
+  inputs.trouble = "Keyboard is gone.";
   EXPECT_EQ(port.status(), "Keyboard is gone.");
+}
+
+TEST_F(InputPortTest, ItIsToldOnceEachTimeThatTheDeviceGoesAway) {
+  int told = 0;
+  port.on_gone([&told] { ++told; });
+  port.open(0);
+  port.look_after();
+  EXPECT_EQ(told, 0);
+  inputs.trouble = "Keyboard is gone.";
+  port.look_after();
+  port.look_after();
+  EXPECT_EQ(told, 1);
+  inputs.trouble = "";
+  port.look_after();
+  inputs.trouble = "Keyboard is gone.";
+  port.look_after();
+  EXPECT_EQ(told, 2);
 }
 
 TEST_F(InputPortTest, TheOpenDeviceIsLookedAfter) {

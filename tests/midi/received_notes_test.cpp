@@ -209,6 +209,19 @@ TEST_F(ReceivedNotesTest, ANoteStruckAgainOnAnotherTrackEndsOnTheFirst) {
   EXPECT_EQ(studio.sent(), (Messages{0x3C90, 0x4000E9, 0x643C99}));
 }
 
+TEST_F(ReceivedNotesTest, AllNotesThatSoundAreEndedWhereTheyBeganAndOnlyOnce) {
+  studio.receive(0x643C90);
+  studio.receive(0x644090);
+  studio.receive(0x404080);
+  studio.song.tracks.set_column(1);
+  studio.receive(0x642490);
+  studio.sent();
+  studio.received.end_all();
+  EXPECT_EQ(studio.sent(), (Messages{0x2499, 0x3C90}));
+  studio.received.end_all();
+  EXPECT_EQ(studio.sent(), Messages{});
+}
+
 /// Dialogs that stay up for a while: passes go on, and something more is played.
 class SlowDialogs : public test::ScriptedDialogs {
  public:
