@@ -74,9 +74,15 @@ template <class Port>
 void ReturningPort<Port>::reopen() {
   try {
     gone_ = !open();
+    reopened_ = !gone_;
   } catch (const RtMidiError&) {
     gone_ = true;
   }
+}
+
+template <class Port>
+bool ReturningPort<Port>::has_returned() {
+  return reopened_ && usable() && connected() && std::exchange(reopened_, false);
 }
 
 template <class Port>

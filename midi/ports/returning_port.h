@@ -34,6 +34,8 @@ class ReturningPort {
   bool connected() const;
   /// To be called now and then.
   void look_after();
+  /// Whether the connection has been made again since this was last asked.
+  bool has_returned();
   State state() const;
   /// Whether the service runs and our end of the connection is there. Nothing may be sent while it
   /// is not: nobody takes anything out of the library's queue then, and the library waits without
@@ -59,6 +61,7 @@ class ReturningPort {
   std::function<void(Port&)> set_up_;
   bool gone_ = false;
   bool opened_ = false;
+  bool reopened_ = false;
   bool was_connected_ = false;  // since then, who parts the two does so on purpose
   PortErrors errors_;
   // Asking for the ports' names changes the library's object, not the device.

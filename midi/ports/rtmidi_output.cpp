@@ -47,6 +47,7 @@ MidiResult RtMidiOutput::long_message(const SysExBytes& data) {
 
 MidiResult RtMidiOutput::send(std::span<const std::uint8_t> bytes) {
   if (!port_.usable()) return kPortGone;
+  silence_if_returned();
   if (!has_room(bytes.size())) return port_.usable() ? kPortBusy : kPortGone;
   if (jack()) last_send_cycle_ = jack()->cycles();
   port_.errors().clear();
@@ -58,9 +59,22 @@ MidiResult RtMidiOutput::send(std::span<const std::uint8_t> bytes) {
   return port_.errors().any() ? kNotSent : kMidiOk;
 }
 
+/// What sounded when the device went away may have been ended meanwhile, which the device does not
+/// know of.
+void RtMidiOutput::silence_if_returned() {
+  if (port_.has_returned()) reset();
+}
+
 bool RtMidiOutput::has_room(std::size_t size) {
   if (!jack()) return true;
-  return wait_for([&] { return guard_.admit(size, jack()->cycles()); });
+  if (stalled()) return false;
+  if (wait_for([&] { return guard_.admit(size, jack()->cycles()); })) return true;
+  stalled_at_ = jack()->cycles();
+  return false;
+}
+
+bool RtMidiOutput::stalled() const {
+  return jack() && stalled_at_ == jack()->cycles();
 }
 
 /// Waits for something that the running server brings about; not long, and not for a dead one.
@@ -77,8 +91,13 @@ bool RtMidiOutput::wait_for(Condition condition) {
 
 RtMidiOutput::~RtMidiOutput() {
   // A JACK port that closes takes with it what its receiver has not looked at yet.
-  if (!jack()) return;
+  if (!jack() || stalled()) return;
   wait_for([&] { return jack()->cycles() >= last_send_cycle_ + kCyclesToArrive; });
+}
+
+void RtMidiOutput::look_after() {
+  port_.look_after();
+  silence_if_returned();
 }
 
 void RtMidiOutput::reset() {
@@ -96,7 +115,7 @@ std::string RtMidiOutput::status() const {
     case State::kAway:
       return "The MIDI output \"" + port_.wanted() + "\" is gone.";
     default:
-      return {};
+      return stalled() ? "The JACK server does not answer: nothing is heard." : "";
   }
 }
 

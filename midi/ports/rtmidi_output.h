@@ -4,6 +4,7 @@
 #include "midi/ports/port_result.h"
 #include "midi/ports/returning_port.h"
 
+#include <optional>
 #include <span>
 
 namespace lunavox {
@@ -24,13 +25,17 @@ class RtMidiOutput : public OutputDevice {
   std::string error_text(MidiResult result) const override { return port_result_text(result); }
   void reset() override;
   std::string status() const override;
-  void look_after() override { port_.look_after(); }
+  void look_after() override;
 
  private:
   RtMidiOutput(MidiService service, std::string port);
 
   bool open();
+  void silence_if_returned();
   bool has_room(std::size_t size);
+  /// Whether the server has done nothing since it was last waited for in vain. It is alive but may
+  /// stay so for long, and not every message can wait for it.
+  bool stalled() const;
   template <class Condition>
   bool wait_for(Condition condition);
   MidiResult send(std::span<const std::uint8_t> bytes);
@@ -39,6 +44,7 @@ class RtMidiOutput : public OutputDevice {
   ReturningPort<RtMidiOut> port_;
   JackQueueGuard guard_;
   std::uint64_t last_send_cycle_ = 0;
+  std::optional<std::uint64_t> stalled_at_;  // the cycle at which a wait was in vain
   SysExSteps steps_;
 };
 

@@ -2,10 +2,12 @@
 
 usage: jack_ports_test.py PORTS_CLIENT"""
 
+import signal
 import sys
 import unittest
 
 import jack
+from midi_log import PORT_RESET
 
 CLIENT = None
 OUTPUT_PORT = "Lunavox output:Lunavox virtual port"
@@ -82,6 +84,20 @@ class JackPorts(unittest.TestCase):
                                         "The JACK server has stopped: nothing is heard any more."])
         self.assertEqual(client.errors, [])
 
+    def test_an_output_whose_server_stands_still_keeps_nobody_waiting(self):
+        monitor = self.server.monitor()
+        client = self.server.run(CLIENT, "send-stalled", "midi-monitor")
+        monitor.wait_for(1)
+        self.server.server.signal(signal.SIGSTOP)
+        jack.wait_until(lambda: len(client.lines) == 3, "answer to what was sent")
+        self.server.server.signal(signal.SIGCONT)
+        jack.wait_until(lambda: "90 3c 64" in monitor.messages(), "message after the stop")
+        monitor.process.stop()
+        self.assertEqual(client.wait(), 0, client.errors)
+        self.assertEqual(client.lines, ["open", "The MIDI port is still busy with earlier messages.",
+                                        "The JACK server does not answer: nothing is heard.", ""])
+        self.assertEqual(client.errors, [])
+
     def test_an_output_whose_server_comes_back_before_its_receiver_keeps_nobody_waiting(self):
         receiver = self.server.monitor()
         client = self.server.run(CLIENT, "send-while-away", "midi-monitor:input")
@@ -92,7 +108,7 @@ class JackPorts(unittest.TestCase):
         self.server.start()
         jack.wait_until(lambda: len(client.lines) == 3, "answer to what was sent")
         receiver = self.server.monitor()
-        self.assertEqual(receiver.wait_for(1)[0], "90 3c 64")
+        self.assertEqual(receiver.wait_for(33)[:33], PORT_RESET + ["90 3c 64"])
         receiver.process.stop()
         self.assertEqual(client.wait(), 0, client.errors)
         self.assertEqual(client.lines, ["The JACK server has stopped: nothing is heard any more.",

@@ -6,6 +6,9 @@
 //   ports_client send-while-away OUTPUT      looks after the device until its server is back, its
 //                                            port not yet, sends, prints the error, and sends again
 //                                            from when the port is back to when it goes
+//   ports_client send-stalled OUTPUT         sends until the device tells an error, sends far more,
+//                                            prints error and status, and sends again from when
+//                                            there is no trouble to when there is some
 //   ports_client receive INPUT COUNT         prints COUNT messages as they arrive
 //   ports_client receive-until-gone INPUT    prints messages until the device tells why it is gone
 #include "midi/device_selection.h"
@@ -90,6 +93,13 @@ int send_until_gone(const std::string& name) {
   return 0;
 }
 
+void send_notes_until_trouble(OutputDevice& device) {
+  while (device.status().empty()) {
+    device.short_message(0x643C90);
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+}
+
 void look_after_until(OutputDevice& device, const std::string& status) {
   while (device.status() != status) {
     device.look_after();
@@ -106,10 +116,22 @@ int send_while_away(const std::string& name) {
   std::puts(device->error_text(send_a_flood(*device)).c_str());
   std::fflush(stdout);
   look_after_until(*device, "");
-  while (device->status().empty()) {
-    device->short_message(0x643C90);
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  send_notes_until_trouble(*device);
+  return 0;
+}
+
+int send_stalled(const std::string& name) {
+  const auto device = open_output(name);
+  std::puts("open");
+  std::fflush(stdout);
+  while (device->short_message(0x007BB0) == kMidiOk) {
   }
+  std::puts(device->error_text(send_a_flood(*device)).c_str());
+  device->reset();
+  std::puts(device->status().c_str());
+  std::fflush(stdout);
+  look_after_until(*device, "");
+  send_notes_until_trouble(*device);
   return 0;
 }
 
@@ -136,8 +158,11 @@ int receive_until_gone(const std::string& name) {
   });
   if (!device) throw std::runtime_error(devices.open_error());
   device->start();
-  while (device->status().empty()) std::this_thread::yield();
-  std::puts(device->status().c_str());
+  // The connection is made a moment after it is asked for.
+  while (!device->status().empty()) std::this_thread::yield();
+  std::string trouble;
+  while ((trouble = device->status()).empty()) std::this_thread::yield();
+  std::puts(trouble.c_str());
   return 0;
 }
 
@@ -152,6 +177,7 @@ int run(const std::vector<std::string>& arguments) {
   }
   if (command == "send-until-gone" && arguments.size() == 2) return send_until_gone(arguments[1]);
   if (command == "send-while-away" && arguments.size() == 2) return send_while_away(arguments[1]);
+  if (command == "send-stalled" && arguments.size() == 2) return send_stalled(arguments[1]);
   if (command == "receive" && arguments.size() == 3) {
     return receive(arguments[1], std::stoi(arguments[2]));
   }
