@@ -32,8 +32,12 @@ class SongBefore {
     if (stores_.key_attributes.last_row() < 0) {
       std::swap(stores_.key_attributes, song.key_attributes);
     }
-    song = rest_;
+    // Whoever watches the grids looks into the stores: these come first, and stay.
     put_stores(song, stores_);
+    rest_.notes = song.notes;
+    rest_.values = song.values;
+    rest_.key_attributes = song.key_attributes;
+    song = rest_;
   }
 
  private:

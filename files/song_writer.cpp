@@ -1,5 +1,7 @@
 #include "files/song_writer.h"
 
+#include "grid/runtime_error.h"
+
 #include <algorithm>
 #include <charconv>
 #include <string_view>
@@ -60,6 +62,7 @@ class SongWriter {
   SongWriter(const Song& song, LineWriter& out) : song_(song), out_(out) {}
 
   void write(const std::function<void(int)>& progress) {
+    check_stores();
     int step = 0;
     const auto done = [&] {
       if (progress) progress(++step);
@@ -84,6 +87,13 @@ class SongWriter {
   }
 
  private:
+  /// The lines are written without looking at each index.
+  void check_stores() const {
+    const int last_row = std::min(
+        {song_.notes.last_row(), song_.values.last_row(), song_.key_attributes.last_row()});
+    if (last_row < song_.last_row()) throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
+  }
+
   void write_head() {
     out_.text("2.0");
     out_.integer(song_.track_count);

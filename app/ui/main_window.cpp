@@ -73,6 +73,7 @@ MainWindow::MainWindow(const WindowModel& model, const WindowCommands& commands)
   show_octave();
   model_.song.tracks.add_observer(this);
   follow(model_.outputdev.items, this, [this](const std::vector<OutputItem>&) { show_devices(); });
+  follow(model_.flags.song_loading, this, [this](bool) { show_cursor(); });
   follow(model_.flags.modified, this, [this](bool) { refresh_status(); });
   follow(model_.file_name, this, [this](const std::string&) { refresh_status(); });
   auto* timer = new QTimer(this);
@@ -183,6 +184,7 @@ void MainWindow::cells_changed(const CellRegion& region) {
 }
 
 void MainWindow::show_cursor() {
+  if (model_.flags.song_loading) return;
   status_->show_text(StatusLine::kLine, QString::fromStdString(cursor_line_text(model_.song)));
   status_->show_text(StatusLine::kCell, QString::fromStdString(cursor_cell_text(model_.song)));
 }
