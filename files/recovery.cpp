@@ -92,7 +92,12 @@ void RecoveryFile::listen_to_changes() {
   }
   flags_.modified.on_change([this](bool modified) { modified ? changed() : saved(); });
   flags_.playing.on_change([this](bool playing) {
-    if (!playing && changed_at_ && due_) due_();
+    if (!changed_at_) return;
+    if (playing) {
+      write();
+    } else if (due_) {
+      due_();
+    }
   });
 }
 
@@ -124,7 +129,10 @@ std::optional<std::uint32_t> RecoveryFile::next_due() const {
 }
 
 void RecoveryFile::pass(std::uint32_t now) {
-  if (!next_due() || elapsed_ms(*changed_at_, now) < kDelayMs) return;
+  if (next_due() && elapsed_ms(*changed_at_, now) >= kDelayMs) write();
+}
+
+void RecoveryFile::write() {
   changed_at_.reset();
   problem_.clear();
   writer_->write(song_, song_file_.current_name);

@@ -40,8 +40,9 @@ class OrphanedSong {
 /// ends, no more than the last few seconds of work are lost.
 ///
 /// Each running editor has a file of its own, known by a lock that it holds for as long as it
-/// lives. The file is written a few seconds after a change, on another thread and from a copy, and
-/// never while the song plays or records in real time. It goes when the song is saved and when the
+/// lives. The file is written a few seconds after a change, on another thread and from a copy; what
+/// has changed when the song begins to play or to record in real time, right then, and nothing more
+/// until it stops. It goes when the song is saved and when the
 /// program ends in order.
 class RecoveryFile : private CellGridObserver {
  public:
@@ -95,6 +96,7 @@ class RecoveryFile : private CellGridObserver {
   void listen_to_changes();
   void changed();
   void saved();
+  void write();
   bool enabled() const { return lock_.has_value(); }
 
   Song& song_;

@@ -124,6 +124,19 @@ TEST_F(Recovery, NothingIsWrittenWhileTheSongPlays) {
   EXPECT_TRUE(desk.written());
 }
 
+/// It may play for long.
+TEST_F(Recovery, WhatHasChangedBeforeTheSongPlaysIsWrittenAsItBegins) {
+  Desk desk(state);
+  desk.edit();
+  desk.clock.advance(100);
+  desk.bench.flags.playing = true;
+  desk.recovery.wait();
+  EXPECT_TRUE(desk.written());
+  desk.due = 0;
+  desk.bench.flags.playing = false;
+  EXPECT_EQ(desk.due, 0) << "nothing has changed since";
+}
+
 TEST_F(Recovery, SavingTheSongRemovesTheFile) {
   Desk desk(state);
   desk.edit();
