@@ -24,11 +24,17 @@ fs::path folder_of(const fs::path& file) {
   return file.has_parent_path() ? file.parent_path() : fs::path(".");
 }
 
-/// A hidden name that no other save uses, in this program or another one.
+/// A hidden name that no other save uses, in this program or another one. One that was killed may
+/// have left its file, and its number to us.
 fs::path name_beside(const fs::path& target) {
   static std::atomic<int> count{0};
-  return folder_of(target) / (".lunavox-" + std::to_string(disk::process_number()) + "-" +
-                              std::to_string(++count) + ".new");
+  const std::string start = ".lunavox-" + std::to_string(disk::process_number()) + "-";
+  std::error_code none;
+  fs::path name;
+  do {
+    name = folder_of(target) / (start + std::to_string(++count) + ".new");
+  } while (fs::exists(fs::symlink_status(name, none)));
+  return name;
 }
 
 }  // namespace

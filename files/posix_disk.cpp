@@ -75,8 +75,11 @@ void OutputFile::copy_permissions(const std::filesystem::path& from) {
   struct stat status {};
   if (::stat(from.c_str(), &status) != 0) return;
   // The owner first: changing it clears some of the permissions. A file of somebody else that we
-  // may write to becomes ours, as with every editor that saves this way.
-  [[maybe_unused]] const int ignored = ::fchown(descriptor_, status.st_uid, status.st_gid);
+  // may write to becomes ours, as with every editor that saves this way; its group stays.
+  constexpr uid_t kNoChange = -1;
+  if (::fchown(descriptor_, status.st_uid, status.st_gid) != 0) {
+    [[maybe_unused]] const int ignored = ::fchown(descriptor_, kNoChange, status.st_gid);
+  }
   ::fchmod(descriptor_, status.st_mode & kPermissions);
 }
 

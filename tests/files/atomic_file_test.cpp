@@ -4,7 +4,9 @@
 #include "tests/support/temp_folder.h"
 
 #include <csignal>
+#include <string>
 
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
@@ -107,6 +109,28 @@ TEST(AtomicFile, ANewFileHasTheUsualPermissions) {
   save(folder.file("song.lvx"), "new");
   ::umask(mask);
   EXPECT_EQ(permissions_of(folder.file("song.lvx")), 0640U);
+}
+
+TEST(AtomicFile, AGroupsFileStaysTheGroups) {
+  if (::getuid() != 0) GTEST_SKIP() << "only root may become a member of a group";
+  constexpr gid_t kBand = 54321;
+  constexpr uid_t kMember = 54322;
+  const TempFolder folder;
+  const std::string song = folder.write("song.lvx", "old");
+  ASSERT_EQ(::chown(song.c_str(), 0, kBand), 0);
+  ASSERT_EQ(::chmod(song.c_str(), 0660), 0);
+  ASSERT_EQ(::chmod(folder.path().c_str(), 0777), 0);
+  const int result = in_child([&] {
+    if (::setgroups(1, &kBand) != 0 || ::setgid(kMember) != 0 || ::setuid(kMember) != 0) return 1;
+    save(song, "new");
+    return 0;
+  });
+  EXPECT_EQ(result, 0);
+  struct stat status {};
+  ASSERT_EQ(::stat(song.c_str(), &status), 0);
+  EXPECT_EQ(status.st_uid, kMember);
+  EXPECT_EQ(status.st_gid, kBand);
+  EXPECT_EQ(permissions_of(song), 0660U);
 }
 
 TEST(AtomicFile, ASymbolicLinkKeepsLeadingToTheFile) {
@@ -226,6 +250,18 @@ TEST(AtomicFile, ADiskThatFillsUpKeepsTheOldFile) {
   });
   if (result == kNoMount) GTEST_SKIP() << "no file system may be mounted here";
   EXPECT_EQ(result, 0);
+}
+
+/// Its number may be ours now.
+TEST(AtomicFile, WhatAKilledSaveLeftBehindDoesNotHinderTheNext) {
+  const TempFolder folder;
+  const std::string number = std::to_string(::getpid());
+  for (int count = 1; count <= 1000; ++count) {
+    folder.write(".lunavox-" + number + "-" + std::to_string(count) + ".new", "left");
+  }
+  save(folder.file("song.lvx"), "new");
+  EXPECT_EQ(folder.read("song.lvx"), "new");
+  EXPECT_EQ(folder.entries(), 1001);
 }
 
 TEST(AtomicFile, TwoSavesOfOneFileDoNotDisturbEachOther) {
