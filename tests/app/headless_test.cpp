@@ -128,6 +128,10 @@ TEST_F(HeadlessRun, AStopEndsARenderingToo) {
   stop_ = true;
   EXPECT_EQ(run({"--render", path("out.wav"), path("in.lvx")}), 1);
   EXPECT_EQ(errors_.str(), "lunavox: interrupted\n");
+  EXPECT_FALSE(fs::exists(path("out.wav")));
+  std::ofstream(path("out.wav")) << "an earlier one";
+  EXPECT_EQ(run({"--render", path("out.wav"), path("in.lvx")}), 1);
+  EXPECT_EQ(contents(path("out.wav")), "an earlier one");
 }
 
 TEST_F(HeadlessRun, AnOutputThatIsNotThereIsOneLine) {

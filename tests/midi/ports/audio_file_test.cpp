@@ -87,6 +87,34 @@ TEST(AudioFile, APlaceThatCannotBeWrittenIsTold) {
             "The sound file \"/no/such/folder/song.wav\" cannot be written.");
 }
 
+TEST(AudioFile, UntilItIsClosedAFileOfThatNameStaysAsItWas) {
+  const TempFolder folder;
+  const std::string path = folder.write("song.wav", "old");
+  {
+    AudioFile file(path, 44100);
+    file.write({0.5F, -0.5F});
+    EXPECT_EQ(folder.read("song.wav"), "old");
+  }
+  EXPECT_EQ(folder.read("song.wav"), "old");
+  EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST(AudioFile, ItTakesThePlaceOfAFileThatALinkLeadsToWithItsPermissions) {
+  namespace fs = std::filesystem;
+  const TempFolder folder;
+  const std::string path = folder.write("song.wav", "old");
+  const fs::perms perms = fs::perms::owner_read | fs::perms::owner_write;
+  fs::permissions(path, perms);
+  fs::create_symlink("song.wav", folder.file("link.wav"));
+  AudioFile file(folder.file("link.wav"), 44100);
+  file.write({0.5F, -0.5F});
+  file.close();
+  EXPECT_TRUE(fs::is_symlink(folder.file("link.wav")));
+  EXPECT_EQ(read_sound(path).info.frames, 1);
+  EXPECT_EQ(fs::status(path).permissions(), perms);
+  EXPECT_EQ(folder.entries(), 2);
+}
+
 TEST(AudioFile, AFullDiskIsTold) {
   const TempFolder folder;
   std::filesystem::create_symlink("/dev/full", folder.file("song.wav"));
