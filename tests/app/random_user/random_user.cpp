@@ -75,6 +75,7 @@ ScriptedInputs& RandomUser::share_inputs() {
 
 std::string RandomUser::act(const Action& action) {
   wrong_.clear();
+  began_song_ = false;
   prepare_answers(action);
   try {
     perform(action);

@@ -29,7 +29,12 @@ class RandomUser {
   /// @return what is wrong, empty where both files are the same
   std::string compare_reopened();
 
+  /// Whether the last action ended with another song in the place of the one before.
+  bool began_song() const { return began_song_; }
+
   const Editor& editor() const { return bench_.editor; }
+  /// For a test that plants a fault there.
+  Editor& editor() { return bench_.editor; }
   /// Somebody else plays on the same input, from another thread: what is held is not known then.
   ScriptedInputs& share_inputs();
 
@@ -57,10 +62,12 @@ class RandomUser {
 
   // random_user_files.cpp
   void begin_song(int answer);
+  void begin_song_unsaved();
   void open(bool over);
   void open_recent(int place);
   void open_damaged(int place, int damage);
   void open_file(const std::string& name);
+  void compare_opened(const std::string& name, std::size_t bookmarks_before);
   void save(bool as);
   void save_nowhere();
   void export_song();
@@ -74,9 +81,10 @@ class RandomUser {
   RecoveryFile recovery_;
   Listener listener_;
 
-  std::set<int> held_;                ///< keys of the MIDI keyboard that are down
-  std::atomic<int> waiting_{0};       ///< writes to the note queue since it was last empty
-  bool lost_ = false;                 ///< messages have been overwritten there
+  std::set<int> held_;           ///< keys of the MIDI keyboard that are down
+  std::atomic<int> waiting_{0};  ///< writes to the note queue since it was last empty
+  bool lost_ = false;            ///< messages have been overwritten there
+  bool began_song_ = false;
   bool shared_ = false;               ///< somebody else plays too
   std::map<std::string, int> saved_;  ///< tracks of the song in each file that was saved
   VoiceCell voice_;                   ///< what the voice dialogs are answered with

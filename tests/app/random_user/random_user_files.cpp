@@ -1,9 +1,11 @@
+#include "editor_invariants.h"
 #include "files/recovery_text.h"
 #include "files/song_writer.h"
 #include "grid/runtime_error.h"
 #include "random_user.h"
 
 #include <array>
+#include <sstream>
 #include <string>
 
 namespace lunavox::test {
@@ -14,6 +16,30 @@ constexpr const char* kDamagedName = "damaged.lvx";
 
 std::string text_of(const Song& song) {
   return song_text(song);
+}
+
+/// The next line without its end.
+std::string next_line(std::istream& lines) {
+  std::string line;
+  std::getline(lines, line);
+  if (line.ends_with('\r')) line.pop_back();
+  return line;
+}
+
+/// Where a text first differs from what it is to be, empty where it does not.
+std::string difference(const std::string& wanted, const std::string& text) {
+  if (text == wanted) return {};
+  std::istringstream wanted_lines(wanted);
+  std::istringstream lines(text);
+  for (int number = 1; wanted_lines || lines; ++number) {
+    const std::string wanted_line = next_line(wanted_lines);
+    const std::string line = next_line(lines);
+    if (line == wanted_line) continue;
+    std::ostringstream what;
+    what << "line " << number << " is \"" << line << "\", not \"" << wanted_line << '"';
+    return what.str();
+  }
+  return "the line ends differ";
 }
 
 /// A song file with something wrong: cut short, or a line changed, missing or twice there.
@@ -45,24 +71,32 @@ void RandomUser::begin_song(int answer) {
   const bool asked = e.flags.modified;
   const std::string name = e.song_file.current_name;
   const std::string before = text_of(e.song);
+  const int tracks = e.song.track_count;
   bench_.dialogs.answers = {given};
   files_.menunew_click();
   if (asked && given == Answer::kCancel) {
     expect(text_of(e.song) == before, "a cancelled command leaves the song");
   } else {
+    began_song_ = true;
     expect(e.song.track_count == 1 && !e.flags.modified, "a new song has the drum track alone");
   }
   if (asked && given == Answer::kYes) {
     const std::string file = name.empty() ? bench_.folder.file(kSongName) : name;
-    saved_.erase(file);
+    saved_[file] = tracks;
     expect(bench_.folder.read(std::filesystem::path(file).filename().string()) == before,
            "what was saved on the way is the song");
   }
 }
 
+void RandomUser::begin_song_unsaved() {
+  bench_.dialogs.answers = {Answer::kNo};
+  files_.menunew_click();
+  began_song_ = true;
+}
+
 void RandomUser::open(bool over) {
   if (!bench_.folder.has(kSongName)) return;
-  if (!over) files_.menunew_click();
+  if (!over) begin_song_unsaved();
   bench_.dialogs.answers = {Answer::kNo};
   open_file(bench_.folder.file(kSongName));
 }
@@ -70,7 +104,9 @@ void RandomUser::open(bool over) {
 void RandomUser::open_recent(int place) {
   const std::vector<std::string>& names = recent_.names.get();
   if (names.empty()) return;
-  open_file(names[static_cast<std::size_t>(place) % names.size()]);
+  // A copy: opening it brings it to the front of the list.
+  const std::string name = names[static_cast<std::size_t>(place) % names.size()];
+  open_file(name);
 }
 
 void RandomUser::open_damaged(int place, int damage) {
@@ -88,6 +124,7 @@ void RandomUser::open_file(const std::string& name) {
   const bool too_short = saved != saved_.end() && saved->second < e.song.track_count;
   e.typing_mode.finish();
   const std::string before = text_of(e.song);
+  const std::size_t bookmarks = e.song.bookmarks.get().size();
   bench_.dialogs.files = {name};
   bool thrown = false;
   try {
@@ -101,10 +138,26 @@ void RandomUser::open_file(const std::string& name) {
   if (thrown) {
     expect(text_of(e.song) == before, "a failed opening changes nothing");
   } else if (too_short || saved == saved_.end()) {
-    // What a damaged file leads to is nobody's song.
-    bench_.dialogs.answers = {Answer::kNo};
-    files_.menunew_click();
+    // What a damaged file leads to is nobody's song. Of it, a new one leaves but the entry step,
+    // which a file may set to anything.
+    begin_song_unsaved();
+    e.song_length.step_change("1");
+  } else {
+    began_song_ = true;
+    compare_opened(name, bookmarks);
   }
+}
+
+void RandomUser::compare_opened(const std::string& name, std::size_t bookmarks_before) {
+  Song opened = bench_.editor.song;
+  // The file's bookmarks come behind those of the song that was there.
+  std::vector<Bookmark> bookmarks = opened.bookmarks;
+  bookmarks.erase(bookmarks.begin(),
+                  bookmarks.begin() + static_cast<std::ptrdiff_t>(bookmarks_before));
+  opened.bookmarks = bookmarks;
+  const std::string file = std::filesystem::path(name).filename().string();
+  const std::string wrong = difference(bench_.folder.read(file), text_of(opened));
+  expect(wrong.empty(), "a song that is opened is that of its file: " + wrong);
 }
 
 void RandomUser::save(bool as) {
@@ -159,7 +212,9 @@ std::string RandomUser::compare_reopened() {
   } catch (const RuntimeError& error) {
     return std::string("a saved song opens again: ") + error.what();
   }
-  return other.folder.read("again.lvx") == text ? "" : "a song that is opened saves as it was";
+  if (other.folder.read("again.lvx") != text) return "a song that is opened saves as it was";
+  const std::string broken = EditorInvariants().check(other.editor);
+  return broken.empty() ? "" : "in the song that is opened again: " + broken;
 }
 
 }  // namespace lunavox::test

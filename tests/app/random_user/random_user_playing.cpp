@@ -65,7 +65,7 @@ void RandomUser::tidy_up() {
   let_go(notes);
   listener_.listen();
   listener_.meet(PlayEvent::kHandsOff);
-  files_.menunew_click();
+  begin_song_unsaved();
   // Of the clipboard too nothing is left.
   e.song.tracks.set_cursor(1, 1);
   e.clipboard.copyproc();

@@ -5,6 +5,7 @@
 
 #include <iostream>
 #include <random>
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@ namespace lunavox {
 namespace {
 
 using test::Action;
+using test::Deed;
 using test::Script;
 
 Script random_script(unsigned seed, std::size_t length) {
@@ -47,6 +49,20 @@ TEST(RandomUser, ReplaysAScriptToTheSameSong) {
     other.act(action);
   }
   EXPECT_TRUE(one.editor().song == other.editor().song);
+}
+
+TEST(RandomUser, FindsASongThatIsOpenedOtherwiseThanItWasSaved) {
+  test::RandomUser user;
+  EXPECT_EQ(user.act({Deed::kSave, 0, 0}), "");
+  user.editor().song_file.set_starteffect([&] { user.editor().song.values.at(1, kPan, 5) = 3; });
+  EXPECT_EQ(user.act({Deed::kOpenOver, 0, 0}),
+            "a song that is opened is that of its file: line 309 is \" 3 \", not \" 64 \"");
+}
+
+TEST(RandomUser, FindsAnExceptionOfAnyKind) {
+  test::RandomUser user;
+  user.editor().shell.choose_drum_kit = [] { throw std::out_of_range("far out"); };
+  EXPECT_EQ(user.act({Deed::kClickEffects, 2, kInstrument}), "no rule throws here: far out");
 }
 
 }  // namespace

@@ -30,8 +30,10 @@ Outcome act_all(const Script& script, const std::function<void()>& begin_action)
 
 std::string Session::act(const Action& action) {
   undisturbed_.remember(user.editor(), action);
+  invariants_.remember(user.editor(), action);
   std::string wrong = user.act(action);
-  if (wrong.empty()) wrong = invariants_.check(user.editor(), action);
+  if (user.began_song()) invariants_.forget();
+  if (wrong.empty()) wrong = invariants_.check(user.editor());
   if (wrong.empty()) wrong = undisturbed_.check(user.editor());
   if (wrong.empty() && ++actions_ % kBetweenReopenings == 0) wrong = user.compare_reopened();
   return wrong;

@@ -9,7 +9,8 @@
 namespace lunavox::test {
 
 /// Compares, around an action, the tracks that it has no business with: their notes, curves,
-/// settings, voice and cells are what they were.
+/// settings, voice and cells are what they were. Where the length is changed, that is so on the
+/// lines that were there and still are.
 class UndisturbedTracks {
  public:
   /// To be told before an action.
@@ -22,9 +23,10 @@ class UndisturbedTracks {
   bool has_business_with(int track) const;
 
   std::optional<Song> before_;  ///< none where the action is one on the whole song
-  int at_cursor_ = 0;           ///< the track of the cursor where the action may change it, else 0
-  int pasted_over_ = 0;         ///< the track that a pasted block may run over into, 0 for none
-  int clicked_ = 0;             ///< the track whose settings are clicked, 0 for none
+  Deed deed_ = Deed::kWait;
+  int cursor_track_ = 0;
+  bool at_cursor_ = false;  ///< whether the action may change the track of the cursor
+  int clicked_ = 0;         ///< the track whose settings are clicked, 0 for none
 };
 
 }  // namespace lunavox::test

@@ -64,6 +64,50 @@ TEST_F(UndisturbedTracks, WhatOnlyWritesFilesMayChangeNothing) {
             "the cells of track 1 changed");
 }
 
+TEST_F(UndisturbedTracks, WhatTakesNotesMayChangeTheTrackOfTheCursorWhileItRecords) {
+  const auto write_note = [this](int track) {
+    return [this, track] { editor_.song.write_entry(track, 1, 1, "643C90"); };
+  };
+  EXPECT_EQ(check_around(Deed::kReceive, write_note(2)), "the notes of track 2 changed");
+  editor_.flags.recording = true;
+  EXPECT_EQ(check_around(Deed::kWait, [this] { editor_.song.write_entry(2, 2, 1, "stop"); }), "");
+  EXPECT_EQ(check_around(Deed::kWait, write_note(3)), "the notes of track 3 changed");
+  EXPECT_EQ(check_around(Deed::kPlay, [this] { editor_.song.values.at(2, kPan, 5) = 3; }),
+            "the curves of track 2 changed");
+}
+
+TEST_F(UndisturbedTracks, WhatIsTypedMayChangeTheTrackOfTheCursor) {
+  editor_.song.tracks.set_cursor(4, effect_column_of(2));
+  EXPECT_EQ(check_around(Deed::kPlay, [this] { editor_.song.values.at(2, kPan, 5) = 3; }), "");
+}
+
+TEST_F(UndisturbedTracks, AClickOnAnotherTracksSettingsLeavesTheTrackOfTheCursor) {
+  EXPECT_EQ(check_around(
+                Deed::kClickEffects, [this] { editor_.song.values.at(2, kPan, 5) = 3; },
+                effects_column(3, Setting::kActive)),
+            "the curves of track 2 changed");
+}
+
+TEST_F(UndisturbedTracks, AFieldMayChangeTheLengthAndNoLineThatStays) {
+  const auto enter_length = [this](const char* text) {
+    return [this, text] { editor_.song_length.length_validate(text); };
+  };
+  EXPECT_EQ(check_around(Deed::kEnterField, enter_length("90")), "");
+  EXPECT_EQ(check_around(Deed::kEnterField, enter_length("5")), "");
+  const auto shorten_and_change = [&] {
+    enter_length("4")();
+    editor_.song.key_attributes.at(1, kPan, 4) = 1;
+  };
+  EXPECT_EQ(check_around(Deed::kEnterField, shorten_and_change), "the curves of track 1 changed");
+}
+
+TEST_F(UndisturbedTracks, NothingElseMayChangeTheLengthOrTheNumberOfTracks) {
+  const auto shorten = [this] { editor_.song_length.length_validate("60"); };
+  EXPECT_EQ(check_around(Deed::kCut, shorten), "the length changed");
+  EXPECT_EQ(check_around(Deed::kPaste, [this] { editor_.tracks.addinstrutrack(); }),
+            "the number of tracks changed");
+}
+
 TEST_F(UndisturbedTracks, ANewTrackLeavesTheOthers) {
   EXPECT_EQ(check_around(Deed::kAddTrack, [this] { editor_.tracks.addinstrutrack(); }), "");
 }
