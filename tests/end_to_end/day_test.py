@@ -59,7 +59,7 @@ class Day(Beginning, Playing, Editing):
         self.assertEqual(song.used_columns, [1, 2, 2])
         self.assertEqual(song.channels, [9, 0, 1])
         self.assertEqual(song.values[2, 2], score.VOLUME)
-        self.assertEqual(song.keys[2, 2][-2:], [16, 31])
+        self.assertEqual(song.keys, dict.fromkeys(song.keys, [0]) | {(2, 2): [0, 16, 31]})
         self.assertEqual(song.values[1, 6], [score.DRUM_REVERB] * 32)
         self.assertEqual(song.settings[2, 2], ("yes", "100", "yes"))
         self.assertEqual(song.settings[1, 6], ("yes", "90", "no"))

@@ -8,6 +8,7 @@ import unittest
 
 import editor
 import jack
+from midi_log import is_note
 
 LUNAVOX = None
 BEAT_MS = 500
@@ -16,15 +17,22 @@ STEP_FIELD = (408, 60)
 
 class Tune(unittest.TestCase):
     def setUp(self):
-        stage = editor.stage()
+        stage = editor.stage(*jack.JackServer.PATIENT)
         self.server, self.home = stage.__enter__()
         self.addCleanup(stage.__exit__, None, None, None)
+        self.monitor = self.server.monitor()
 
     def start(self, *options):
-        monitor = self.server.monitor()
-        window = editor.Editor(self.server, LUNAVOX, self.home, "--input", "virtual",
-                               "--output", monitor.PORT, *options).ready()
-        return window, monitor
+        return editor.Editor(self.server, LUNAVOX, self.home, "--input", "virtual",
+                             "--output", self.monitor.PORT, *options).ready()
+
+    def wait_to_hear(self, *notes):
+        """Waits until these notes have come to the other program, and no others."""
+        jack.wait_until(lambda: len(self.heard()) >= len(notes), f"note number {len(notes)}")
+        self.assertEqual(self.heard(), list(notes))
+
+    def heard(self):
+        return [text for text in self.monitor.messages() if is_note(text)]
 
     def test_on_an_american_keyboard(self):
         self.play_a_tune("us", [], {"q": 48, "2": 49, "w": 50, "y": 57, "z": 36, "m": 47, "/": 50,
@@ -43,18 +51,17 @@ class Tune(unittest.TestCase):
                            ("qwertz", {",": 48, ".": None, "/": None, "[": 67}),
                            ("azerty", {",": 48, ".": 50, "/": 52, "[": 65})):
             with self.subTest(wish):
-                window, monitor = self.start("--keyboard", wish)
+                window = self.start("--keyboard", wish)
                 window.key(*tune, "q")
                 notes = [note for note in tune.values() if note] + [48]
                 self.assertEqual(pitches(window.wait_for_notes(len(notes))), notes)
                 window.quit()
-                monitor.process.stop()
 
     def play_a_tune(self, nation, options, tune):
         """@param tune: eight keys by their American names, each with its note"""
         editor.run("setxkbmap", nation, env=self.server.environment)
         notes = list(tune.values())
-        window, monitor = self.start(*options)
+        window = self.start(*options)
         window.click(STEP_FIELD, times=2)
         window.type("4")
         window.key("Return", "space", *tune)
@@ -66,15 +73,14 @@ class Tune(unittest.TestCase):
                     if entry}
         self.assertEqual(recorded, {4 * beat: f"7F{note:02X}99"
                                     for beat, note in enumerate(notes)})
+        self.wait_to_hear(*lines, *lines)  # as they were typed, and played back
         window.quit()
-        monitor.process.stop()
 
-        window, monitor = self.start(*options)
+        window = self.start(*options)
         window.open(f"{self.home}/first.lvx")
         self.assertEqual(self.play_back(window, notes, earlier=0), lines)
         self.assertEqual(window.save_as(f"{self.home}/second.lvx"), first_save)
-        received = [text for text in monitor.messages() if text.startswith("99")]
-        jack.wait_until(lambda: received, "note at the other program")
+        self.wait_to_hear(*lines, *lines, *lines)
         window.quit()
 
     def play_back(self, window, notes, earlier):
