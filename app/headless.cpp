@@ -132,10 +132,13 @@ void play_song(const CommandLine& line, const Headless& world) {
   HeadlessEditor headless(outputs.get(), clock, world.errors);
   headless.open_output(chosen_output(line, world.outputs));
   headless.open_song(line.song);
-  const std::string status = headless.editor().output.device()->status();
-  if (!status.empty()) world.errors << "lunavox: " << status << '\n';
+  const OutputDevice& output = *headless.editor().output.device();
+  const std::string at_first = output.status();
+  if (!at_first.empty()) world.errors << "lunavox: " << at_first << '\n';
   SongPlayer(headless.editor()).play_in_real_time(world.stop);
+  const std::string at_last = output.status();
   headless.editor().close_ports();
+  if (!at_last.empty() && at_last != at_first) throw RunError(at_last);
 }
 
 void list(std::ostream& out, const char* title, const std::vector<std::string>& names) {

@@ -24,7 +24,7 @@ void SynthDevice::open_sound_card() {
     if (open_service(service)) return;
   }
   through_jack_ = open_jack();
-  if (!through_jack_) status_ = "No sound card was found: the synthesiser plays silently.";
+  silent_ = !through_jack_;
 }
 
 bool SynthDevice::open_service(const std::string& service) {
@@ -45,14 +45,21 @@ bool SynthDevice::open_jack() {
 /// A JACK server that is started again is only found once all is given up that we have of the old
 /// one, here and in the other devices; so it is sought when we are asked the next time.
 void SynthDevice::look_after() {
-  if (!through_jack_ || (driver_ && jack_->alive())) return;
+  if (!through_jack_ || heard_through_jack()) return;
   if (driver_) {
     driver_.reset();
     jack_.reset();
-    status_ = "The JACK server has stopped: nothing is heard any more.";
-  } else if (open_jack()) {
-    status_.clear();
+  } else {
+    open_jack();
   }
+}
+
+std::string SynthDevice::status() const {
+  if (silent_) return "No sound card was found: the synthesiser plays silently.";
+  if (through_jack_ && !heard_through_jack()) {
+    return "The JACK server has stopped: nothing is heard any more.";
+  }
+  return {};
 }
 
 MidiResult SynthDevice::short_message(std::uint32_t packed) {

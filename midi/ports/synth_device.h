@@ -24,7 +24,7 @@ class SynthDevice : public OutputDevice {
   MidiResult unprepare_header(const SysExBytes&) override { return steps_.unprepare(); }
   std::string error_text(MidiResult result) const override { return port_result_text(result); }
   void reset() override { synthesiser_->silence(); }
-  std::string status() const override { return status_; }
+  std::string status() const override;
   void look_after() override;
 
  private:
@@ -35,13 +35,14 @@ class SynthDevice : public OutputDevice {
   void open_sound_card();
   bool open_service(const std::string& service);
   bool open_jack();
+  bool heard_through_jack() const { return driver_ && jack_->alive(); }
 
   std::shared_ptr<Synthesiser> synthesiser_;
   std::unique_ptr<fluid_audio_driver_t, DeleteDriver> driver_;
   bool through_jack_ = false;
   std::shared_ptr<JackServer> jack_;  // the server that the driver plays to
   SysExSteps steps_;
-  std::string status_;
+  bool silent_ = false;  // no sound service was found
 };
 
 /// Name of the built-in synthesiser in the list of outputs.

@@ -123,6 +123,23 @@ TEST_F(HeadlessRun, AStopBeforeTheFirstLineStillResetsTheChannels) {
   EXPECT_EQ(sent.back(), 0x4048BEU);
 }
 
+TEST_F(HeadlessRun, AnOutputThatIsLostWhileASongPlaysIsOneLineAndStatusOne) {
+  write_song("in.lvx");
+  outputs_.on_short = [this](std::uint32_t packed) {
+    if (packed == 0x643C99) outputs_.status = "The module is gone.";
+  };
+  EXPECT_EQ(run({"--play", path("in.lvx")}), 1);
+  EXPECT_EQ(errors_.str(), "lunavox: The module is gone.\n");
+  EXPECT_EQ(outputs_.shorts().back(), 0x4048BEU);  // played to its end all the same
+}
+
+TEST_F(HeadlessRun, AnOutputThatIsSilentFromTheStartIsToldAndPlayedTo) {
+  write_song("in.lvx");
+  outputs_.status = "There is no sound.";
+  EXPECT_EQ(run({"--play", path("in.lvx")}), 0);
+  EXPECT_EQ(errors_.str(), "lunavox: There is no sound.\n");
+}
+
 TEST_F(HeadlessRun, AStopEndsARenderingToo) {
   write_song("in.lvx");
   stop_ = true;

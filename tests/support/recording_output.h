@@ -3,6 +3,7 @@
 #include "midi/devices.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -34,6 +35,8 @@ class RecordingOutput : public OutputDevices {
   MidiResult unprepare_result = kMidiOk;
   std::string error = "The device is busy.";
   std::string status;  ///< what devices say of themselves
+  /// Called with each short message.
+  std::function<void(std::uint32_t)> on_short = [](std::uint32_t) {};
 
   /// The short messages so far.
   std::vector<std::uint32_t> shorts() const {
@@ -78,6 +81,7 @@ class RecordingOutput : public OutputDevices {
 
     MidiResult short_message(std::uint32_t packed) override {
       note({Call::kShort, 0, packed, {}});
+      owner_.on_short(packed);
       return owner_.short_result;
     }
     MidiResult prepare_header(const SysExBytes& data) override {
