@@ -9,11 +9,25 @@ import unittest
 
 import editor
 import jack
+import screen_reader
 import take
 from midi_log import CLICK, is_note
 
+missing = editor.missing_tools() + screen_reader.missing()
+if missing:
+    print("not installed:", *missing)
+    sys.exit(77)  # skipped
+
+from seen_editor import SeenEditor
+
 LUNAVOX = None
 BEAT_MS = 500
+PORT = jack.Monitor.PORT
+SYNTH = "Built-in synthesiser"
+NO_SERVER = "The JACK server has stopped: the MIDI input is silent."
+FROM_OUTSIDE = ["99 3c 7f", "99 3f 7f"]
+OF_THE_SONG = ["99 30 7f", "99 32 7f"]
+QUEUE = 20  # messages from outside that wait to be heard, every second one the end of a note
 
 
 class JackRecording(unittest.TestCase):
@@ -23,13 +37,52 @@ class JackRecording(unittest.TestCase):
         stage = editor.stage(*jack.JackServer.PATIENT if patient else ())
         self.server, self.home = stage.__enter__()
         self.addCleanup(stage.__exit__, None, None, None)
+        self.bus = screen_reader.AccessibilityBus(self.server, self.home)
         self.song = f"{self.home}/song.lvx"
 
     def play_in(self):
         return self.server.sequence("seq")
 
     def start(self, *options):
-        return editor.Editor(self.server, LUNAVOX, self.home, *options).ready()
+        return SeenEditor(self.bus, self.server, LUNAVOX, self.home, *options).ready()
+
+    def write_slow_song(self):
+        """A song of a minute, with a note each second: longer than anything that comes between."""
+        window = self.start("--input", "virtual", "--output", PORT)
+        window.enter("number", "1")
+        window.enter("bpm", "60")
+        window.key("space", *["q", "w"] * 32, "space")
+        self.assertEqual(window.save_as(self.song).column(1, 1), ["7F3099", "7F3299"] * 32)
+        window.quit()
+
+    def play_slow_song(self, monitor, *options):
+        """An editor that plays it to the other program, and how one sees whether it does."""
+        window = self.start("--output", PORT, *options, self.song)
+        button = window.node("push button", "playnotes").place()
+        idle = window.picture(button)
+        window.key("Home", "Control_L")
+        self.wait_to_hear(monitor, OF_THE_SONG)
+        stop = window.picture(button)
+        self.assertNotEqual(stop, idle)
+        return window, lambda: window.picture(button) == stop
+
+    def stop(self, window, playing):
+        self.assertTrue(playing())
+        window.press(window.node("push button", "playnotes"))
+        jack.wait_until(lambda: not playing(), "end of the playing")
+
+    def wait_for_word(self, window, text):
+        """Waits until the status line says that of the devices."""
+        jack.wait_until(lambda: window.status().output == text, f'"{text}"')
+
+    def heard(self, monitor, notes):
+        return [text for text in monitor.messages() if text in notes]
+
+    def wait_to_hear(self, monitor, notes, more=2):
+        """Waits until that many more of the notes have come to the other program."""
+        enough = len(self.heard(monitor, notes)) + more
+        jack.wait_until(lambda: len(self.heard(monitor, notes)) >= enough,
+                        f"{notes} at the other program")
 
     def test_step_by_step(self):
         monitor = self.server.monitor()
@@ -75,56 +128,61 @@ class JackRecording(unittest.TestCase):
         player = self.play_in()
         window = self.start("--input", "seq:out")
         window.wait_for_notes(2)
-        well = window.device_status()
+        self.wait_for_word(window, SYNTH)
         player.stop()
-        jack.wait_until(lambda: window.device_status() != well, "word of the input's end")
+        self.wait_for_word(window, 'The MIDI input "seq:out" is gone.')
         heard = len(window.notes())
         window.key("space", "q")
         window.wait_for_notes(heard + 1)
         self.play_in()
-        jack.wait_until(lambda: window.device_status() == well, "word of the input's return")
+        self.wait_for_word(window, SYNTH)
         window.wait_for_notes(heard + 3)
         self.server.die()
-        jack.wait_until(lambda: window.device_status() != well, "word of the server's end")
-        heard = len(window.notes())
+        self.wait_for_word(window, NO_SERVER)
+        recorded = [text for _, text in window.notes()][heard:]
         window.key("w")
-        window.wait_for_notes(heard + 1)
+        window.wait_for_notes(heard + len(recorded) + 1)
         window.key("space")
         entries = [entry for entry in window.save_as(self.song).column(1, 1) if entry]
-        self.assertEqual((entries[0], entries[-1]), ("7F3099", "7F3299"))
+        self.assertEqual(recorded[0], "99 30 7f")
+        self.assertEqual(set(recorded[1:]), set(FROM_OUTSIDE))
+        self.assertEqual([take.sounded(entry) for entry in entries], recorded + ["99 32 7f"])
         window.quit()
 
     def test_an_output_that_comes_back_is_taken_up_again(self):
         monitor = self.server.monitor()
-        window = self.start("--input", "virtual", "--output", monitor.PORT)
-        well = window.device_status()
+        self.write_slow_song()
+        window, playing = self.play_slow_song(monitor, "--input", "virtual")
+        self.wait_for_word(window, PORT)
         monitor.process.stop()
-        jack.wait_until(lambda: window.device_status() != well, "word of the output's end")
-        window.key("q")
+        self.wait_for_word(window, f'{PORT}: The MIDI output "{PORT}" is gone.')
+        window.wait_for_notes(len(window.notes()) + 2)
         monitor = self.server.monitor()
-        jack.wait_until(lambda: window.device_status() == well, "word of the output's return")
-        window.key("w")
-        jack.wait_until(lambda: "99 32 7f" in monitor.messages(), "note at the new port")
+        self.wait_for_word(window, PORT)
+        self.wait_to_hear(monitor, OF_THE_SONG)
+        self.stop(window, playing)
+        window.key("e")
+        jack.wait_until(lambda: "99 34 7f" in monitor.messages(), "note at the new port")
 
     def test_a_server_that_is_started_again_while_a_song_plays_is_heard_and_played_to_again(self):
         monitor = self.server.monitor()
+        self.write_slow_song()
         self.play_in()
-        window = self.start("--input", "seq:out", "--output", monitor.PORT)
-        well = window.device_status()
-        window.key("space", *["q", "w"] * 16, "space", "Home")
-        window.click(editor.PLAY_BUTTON)
+        window, playing = self.play_slow_song(monitor, "--input", "seq:out")
         for _ in range(2):
             self.server.die()
-            jack.wait_until(lambda: window.device_status() != well, "word of the server's end")
+            self.wait_for_word(window, NO_SERVER)
             self.server.start()
             monitor = self.server.monitor()
             self.play_in()
-            jack.wait_until(lambda: window.device_status() == well, "word of the server's return")
-            heard = len(window.notes())
-            window.wait_for_notes(heard + 2)
-            jack.wait_until(monitor.messages, "message at the new server")
-        window.click(editor.PLAY_BUTTON)
-        window.save_as(self.song)
+            self.wait_for_word(window, PORT)
+            self.wait_to_hear(monitor, OF_THE_SONG)
+            self.assertTrue(playing())
+        self.stop(window, playing)
+        of_the_song = self.heard(monitor, OF_THE_SONG)
+        # What came while the song played was kept for now, but not more than the queue holds.
+        self.wait_to_hear(monitor, FROM_OUTSIDE, more=QUEUE // 2 + 2)
+        self.assertEqual(self.heard(monitor, OF_THE_SONG), of_the_song)
         window.quit()
 
     def test_the_synthesiser_is_heard_again_at_a_server_that_is_started_again(self):
@@ -133,11 +191,11 @@ class JackRecording(unittest.TestCase):
 
         window = self.start("--input", "virtual", "--output", "synth")
         before = jack.wait_until(sound_ports, "sound at the server")
-        well = window.device_status()
+        self.wait_for_word(window, SYNTH)
         self.server.die()
-        jack.wait_until(lambda: window.device_status() != well, "word of the server's end")
+        self.wait_for_word(window, NO_SERVER)
         self.server.start()
-        jack.wait_until(lambda: window.device_status() == well, "word of the server's return")
+        self.wait_for_word(window, SYNTH)
         self.assertEqual(sound_ports(), before)
         window.quit()
 
@@ -162,8 +220,5 @@ class JackRecording(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    if editor.missing_tools():
-        print("not installed:", *editor.missing_tools())
-        sys.exit(77)  # skipped
     LUNAVOX = sys.argv.pop(1)
     unittest.main()

@@ -8,7 +8,7 @@ import unittest
 
 import editor
 import jack
-from midi_log import is_note
+from midi_log import RESET, is_note
 
 LUNAVOX = None
 BEAT_MS = 500
@@ -88,6 +88,9 @@ class Tune(unittest.TestCase):
         window.key("Home", "Control_L")
         played = window.wait_for_notes(earlier + len(notes))[earlier:]
         window.click(editor.PLAY_BUTTON)
+        jack.wait_until(lambda: window.sent()[-1][1] == RESET[-1], "end of the playing")
+        # At the button's wish: by itself the song ends with its sixteenth beat.
+        self.assertLess(window.sent()[-1][0] - played[0][0], 15 * BEAT_MS)
         self.assertEqual(pitches(played), notes)
         beats = sorted(later - time for (time, _), (later, _) in zip(played, played[1:]))
         self.assertLess(abs(beats[len(beats) // 2] - BEAT_MS), 25, beats)
