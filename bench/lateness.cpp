@@ -1,6 +1,7 @@
 #include "bench/lateness.h"
 
 #include "bench/timing.h"
+#include "midi/ui/line_priority.h"
 
 #include <algorithm>
 #include <atomic>
@@ -46,6 +47,7 @@ class BareWaiting {
  private:
   void wait(TimePoint first_due) {
     constexpr std::chrono::milliseconds kSpin{2};
+    run_before_others(true);
     for (TimePoint due = first_due + kPeriod / 2; !stopped_; due += kPeriod) {
       std::this_thread::sleep_until(due - kSpin);
       TimePoint now = std::chrono::steady_clock::now();

@@ -21,11 +21,13 @@ double drift(const std::vector<double>& late) {
 }  // namespace
 
 std::vector<Figure> line_timing(ShownEditor& shown, StampedOutputs& outputs, int seconds) {
-  const auto [lines, bare] = time_lines(shown, outputs, seconds);
+  const Lateness timed = time_lines(shown, outputs, seconds);
+  const auto& [lines, bare] = timed;
   shown.settle();
   const std::string late = std::to_string(lines.size()) + " lines, late: ";
   const std::string waits = "bare waits in the same seconds, late: ";
-  return {{late + "half of them up to", share_of(lines, 0.5), {}, {}, "ms"},
+  return {{"lines that did not come", static_cast<double>(timed.missing()), {}, 0.0, ""},
+          {late + "half of them up to", share_of(lines, 0.5), {}, {}, "ms"},
           {late + "90 of 100 up to", share_of(lines, 0.9), {}, {}, "ms"},
           {late + "99 of 100 up to", share_of(lines, 0.99), {}, kUsualMs, "ms"},
           {waits + "99 of 100 up to", share_of(bare, 0.99), {}, {}, "ms"},

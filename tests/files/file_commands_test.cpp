@@ -140,8 +140,10 @@ TEST_F(FileMenu, NewResetsTheSong) {
   EXPECT_EQ(song.step.text(), "3") << "only length, tempo and lines per beat start afresh";
   EXPECT_EQ(song.values.at(1, kVolume, 64), 127) << "every line continues the start value";
   for (int track = 0; track <= 16; ++track) {
-    EXPECT_EQ(song.key_attributes.at(track, 11, 1), 1) << track;
-    EXPECT_EQ(song.key_attributes.at(track, 1, 2), 0) << track;
+    for (int effect = 1; effect <= 11; ++effect) {
+      EXPECT_EQ(song.key_attributes.at(track, effect, 1), 1) << track << ' ' << effect;
+      EXPECT_EQ(song.key_attributes.at(track, effect, 2), 0) << track << ' ' << effect;
+    }
   }
   EXPECT_FALSE(bench.flags.modified);
   EXPECT_FALSE(bench.flags.song_loading);

@@ -36,9 +36,11 @@ TEST(Song, StartsWithItsCaptionsAndNoTrack) {
   EXPECT_EQ(song.tracks.text(0, 0), "Note");
   EXPECT_EQ(song.channels.text(0, 0), "Track");
   EXPECT_EQ(song.effects.text(0, 0), "Effect");
-  EXPECT_EQ(song.effects.text(1, 0), "Instrument");
-  EXPECT_EQ(song.effects.text(2, 0), "Volume");
-  EXPECT_EQ(song.effects.text(11, 0), "Pitch");
+  int row = 0;
+  for (const char* name : {"Instrument", "Volume", "Pan", "Modulation", "Brightness", "Reverb",
+                           "Chorus", "Variation", "Attack", "Release", "Pitch"}) {
+    EXPECT_EQ(song.effects.text(++row, 0), name);
+  }
 }
 
 TEST(Song, EveryTrackSlotShowsTheVolumeAtFirst) {
