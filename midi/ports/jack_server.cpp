@@ -2,7 +2,9 @@
 
 #include "midi/ports/quiet_libraries.h"
 
+#include <chrono>
 #include <string_view>
+#include <thread>
 
 #include <jack/jack.h>
 
@@ -25,6 +27,17 @@ std::shared_ptr<JackServer> JackServer::connect() {
       server.get());
   if (jack_activate(server->client_) != 0) return nullptr;
   return server;
+}
+
+bool JackServer::runs_on() const {
+  constexpr std::chrono::milliseconds kPatience{500};
+  const auto end = std::chrono::steady_clock::now() + kPatience;
+  const std::uint64_t now = cycles_;
+  while (alive_ && cycles_ == now) {
+    if (std::chrono::steady_clock::now() >= end) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return alive_;
 }
 
 bool JackServer::connected(const std::string& port, const std::string& client) const {

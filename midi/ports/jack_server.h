@@ -21,6 +21,9 @@ class JackServer {
   JackServer& operator=(const JackServer&) = delete;
 
   bool alive() const { return alive_; }
+  /// Waits for the next process cycle; not long, and not for a dead server.
+  /// @return false when none comes: whoever asks the server for anything may then wait without end
+  bool runs_on() const;
   /// Process cycles seen since connecting.
   std::uint64_t cycles() const { return cycles_; }
   /// Whether a port is by now connected to one of a client whose name begins so. A connection asked

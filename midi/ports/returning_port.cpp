@@ -1,5 +1,7 @@
 #include "midi/ports/returning_port.h"
 
+#include <thread>
+#include <type_traits>
 #include <utility>
 
 namespace lunavox {
@@ -12,6 +14,16 @@ ReturningPort<Port>::ReturningPort(MidiService service, std::string wanted, Name
       names_(names),
       set_up_(std::move(set_up)) {}
 
+/// Closing waits for the server's answer, without end where the server stands still. Then that is
+/// waited for elsewhere, and the end of the program does not wait for it.
+template <class Port>
+ReturningPort<Port>::~ReturningPort() {
+  if (!port_ || !service_.jack || !service_.alive() || service_.jack->runs_on()) return;
+  if constexpr (std::is_same_v<Port, RtMidiIn>) port_->cancelCallback();
+  std::thread([jack = std::move(service_.jack), errors = errors_, port = std::move(port_)] {
+  }).detach();
+}
+
 template <class Port>
 bool ReturningPort<Port>::open() {
   was_connected_ = opened_ = false;
@@ -22,19 +34,19 @@ bool ReturningPort<Port>::open() {
 template <class Port>
 bool ReturningPort<Port>::open_port() {
   if (!port_) {
-    port_.emplace(service_.api, names_.client);
-    errors_.listen_to(*port_);
+    port_ = std::make_unique<Port>(service_.api, names_.client);
+    errors_->listen_to(*port_);
     set_up_(*port_);
   }
-  errors_.clear();
+  errors_->clear();
   if (wanted_.empty()) {
     port_->openVirtualPort(names_.virtual_port);
-    return !errors_.failed();
+    return !errors_->failed();
   }
   const int number = port_number(*port_, wanted_);
   if (number < 0) return false;
   port_->openPort(static_cast<unsigned>(number), names_.own_port);
-  return port_->isPortOpen() && !errors_.failed();
+  return port_->isPortOpen() && !errors_->failed();
 }
 
 template <class Port>

@@ -3,7 +3,7 @@
 #include "midi/ports/midi_service.h"
 
 #include <functional>
-#include <optional>
+#include <memory>
 #include <string>
 
 namespace lunavox {
@@ -25,6 +25,9 @@ class ReturningPort {
   /// @param set_up does what is to be done before the library's object is opened, each time
   ReturningPort(MidiService service, std::string wanted, Names names,
                 std::function<void(Port&)> set_up);
+  ~ReturningPort();
+  ReturningPort(const ReturningPort&) = delete;
+  ReturningPort& operator=(const ReturningPort&) = delete;
 
   /// @throws RtMidiError where the service cannot be used
   /// @return false when the port cannot be opened
@@ -47,7 +50,7 @@ class ReturningPort {
   /// The library's object; only to be used while it is usable().
   Port& port() { return *port_; }
   /// What the library had to say.
-  PortErrors& errors() { return errors_; }
+  PortErrors& errors() { return *errors_; }
 
  private:
   bool open_port();
@@ -63,9 +66,8 @@ class ReturningPort {
   bool opened_ = false;
   bool reopened_ = false;
   bool was_connected_ = false;  // since then, who parts the two does so on purpose
-  PortErrors errors_;
-  // Asking for the ports' names changes the library's object, not the device.
-  mutable std::optional<Port> port_;
+  std::shared_ptr<PortErrors> errors_ = std::make_shared<PortErrors>();
+  std::unique_ptr<Port> port_;
 };
 
 extern template class ReturningPort<RtMidiOut>;

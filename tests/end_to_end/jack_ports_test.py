@@ -98,6 +98,14 @@ class JackPorts(unittest.TestCase):
                                         "The JACK server does not answer: nothing is heard.", ""])
         self.assertEqual(client.errors, [])
 
+    def test_ports_whose_server_stands_still_close_all_the_same(self):
+        monitor = self.server.monitor()
+        client = self.server.run(CLIENT, "close-stalled", "midi-monitor")
+        monitor.wait_for(1)
+        self.server.server.signal(signal.SIGSTOP)
+        self.assertEqual(client.wait(), 0, client.errors)
+        self.assertEqual(client.errors, [])
+
     def test_an_output_whose_server_comes_back_before_its_receiver_keeps_nobody_waiting(self):
         receiver = self.server.monitor()
         client = self.server.run(CLIENT, "send-while-away", "midi-monitor:input")

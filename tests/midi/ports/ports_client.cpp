@@ -9,6 +9,8 @@
 //   ports_client send-stalled OUTPUT         sends until the device tells an error, sends far more,
 //                                            prints error and status, and sends again from when
 //                                            there is no trouble to when there is some
+//   ports_client close-stalled OUTPUT        opens an input too, sends until the output tells an
+//                                            error, and closes both
 //   ports_client receive INPUT COUNT         prints COUNT messages as they arrive
 //   ports_client receive-until-gone INPUT    prints messages until the device tells why it is gone
 #include "midi/device_selection.h"
@@ -135,6 +137,19 @@ int send_stalled(const std::string& name) {
   return 0;
 }
 
+int close_stalled(const std::string& name) {
+  SystemInputDevices inputs;
+  const auto input = inputs.open(device_of(inputs, "virtual"), [](std::uint32_t) {});
+  if (!input) throw std::runtime_error(inputs.open_error());
+  input->start();
+  const auto output = open_output(name);
+  std::puts("open");
+  std::fflush(stdout);
+  while (output->short_message(0x007BB0) == kMidiOk) {
+  }
+  return 0;
+}
+
 int receive(const std::string& name, int count) {
   SystemInputDevices devices;
   std::counting_semaphore<> arrived(0);
@@ -178,6 +193,7 @@ int run(const std::vector<std::string>& arguments) {
   if (command == "send-until-gone" && arguments.size() == 2) return send_until_gone(arguments[1]);
   if (command == "send-while-away" && arguments.size() == 2) return send_while_away(arguments[1]);
   if (command == "send-stalled" && arguments.size() == 2) return send_stalled(arguments[1]);
+  if (command == "close-stalled" && arguments.size() == 2) return close_stalled(arguments[1]);
   if (command == "receive" && arguments.size() == 3) {
     return receive(arguments[1], std::stoi(arguments[2]));
   }
