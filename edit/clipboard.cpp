@@ -3,6 +3,8 @@
 #include "grid/redraw_pause.h"
 #include "grid/runtime_numbers.h"
 
+#include <utility>
+
 namespace lunavox {
 namespace {
 
@@ -31,11 +33,15 @@ void Clipboard::cutproc() {
 void Clipboard::copy(const CellRegion& block) {
   row_span_ = block.last_row - block.first_row;
   column_span_ = block.last_column - block.first_column;
-  cells_.clear();
+  // Afresh, so that a few cells do not keep the memory of a whole track that was copied before.
+  std::vector<Copied> cells;
+  cells.reserve(static_cast<std::size_t>(row_span_ + 1) *
+                static_cast<std::size_t>(column_span_ + 1));
   visit_block(block, [&](CellPosition cell) {
     const Cell& shown = song_.tracks.cell(cell.row, cell.column);
-    cells_.push_back({shown.text, shown.text_colour, entry_of(song_, cell)});
+    cells.push_back({shown.text, shown.text_colour, entry_of(song_, cell)});
   });
+  cells_ = std::move(cells);
 }
 
 void Clipboard::clear(const CellRegion& block) {
