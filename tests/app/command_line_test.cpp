@@ -72,7 +72,7 @@ TEST(CommandLine, WhatIsWrongIsSaidInOneSentence) {
 TEST(CommandLine, TheHelpNamesEveryOption) {
   for (const char* option :
        {"--export", "--convert", "--render", "--play", "--output", "--input", "--soundfont",
-        "--keyboard", "--midi-log", "--list-devices", "--version", "--help"}) {
+        "--keyboard", "--midi-log", "--list-devices", "-V", "--version", "-h", "--help"}) {
     EXPECT_NE(help_text().find(option), std::string::npos) << option;
   }
 }
