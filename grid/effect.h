@@ -4,7 +4,7 @@
 
 namespace lunavox {
 
-/// The eleven controller curves of a track, by their row in the `effects` grid.
+/// The rows of the `effects` grid: a track's voice and its ten controller curves.
 enum Effect : int {
   kInstrument = 1,  ///< not a curve: the voice's program number on the first line
   kVolume = 2,
@@ -22,7 +22,7 @@ inline constexpr int kFirstEffect = kInstrument;
 inline constexpr int kFirstCurve = kVolume;
 inline constexpr int kLastEffect = kPitch;
 
-/// "Instrument", "Volume", ... "Pitch" for effect 1..11.
+/// "Instrument", "Volume", ... "Pitch" for row 1..11.
 /// @throws RuntimeError (Subscript out of range) for any other
 const std::string& effect_name(int effect);
 

@@ -7,7 +7,7 @@
 namespace lunavox {
 
 /// The progress box `Form3`, "PLEASE WAIT...", with a text and a bar. While it is shown the main
-/// window is disabled.
+/// window answers to nothing: what is pressed waits until the box is gone.
 class ProgressBox {
  public:
   virtual ~ProgressBox() = default;

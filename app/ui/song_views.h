@@ -39,7 +39,7 @@ class TracksView : public GridView {
   std::function<void(QPoint)> popup_;
 };
 
-/// The grid `effects`: each track's settings of the eleven curves.
+/// The grid `effects`: each track's settings of its voice and its ten curves.
 class EffectsView : public GridView {
  public:
   /// @param click  a cell was clicked: column and row of the grid
