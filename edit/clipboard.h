@@ -24,8 +24,7 @@ class Clipboard {
   /// the tracks that they come to. Does nothing before the first copy or cut.
   void pasteproc();
 
-  // Whether the commands have something to work on.
-  bool can_copy() const { return selected_block(song_).has_value(); }
+  /// Whether there is something to paste.
   bool can_paste() const { return !cells_.empty(); }
 
  private:

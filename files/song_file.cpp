@@ -1,5 +1,6 @@
 #include "files/song_file.h"
 
+#include "files/atomic_file.h"
 #include "files/file_bytes.h"
 #include "files/song_reader.h"
 #include "files/song_writer.h"
@@ -87,7 +88,7 @@ SongFile::SongFile(Song& song, Flags& flags, Tracks& tracks, SongLength& length,
 void SongFile::procsave() {
   {
     LongOperation operation(progress_, song_.tracks, "saving...", kSteps);
-    AtomicFile file(current_name.get(), save_observer_);
+    AtomicFile file(current_name.get());
     file.write(song_text(song_, TextGuard::kNone, [&](int step) { operation.set_value(step); }));
     file.commit();
     shared_index_ = song_.track_count + 1;

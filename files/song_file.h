@@ -1,6 +1,5 @@
 #pragma once
 
-#include "files/atomic_file.h"
 #include "files/field_reader.h"
 #include "files/song_reader.h"
 #include "grid/dialogs.h"
@@ -30,8 +29,6 @@ class SongFile {
 
   /// Sends every track's voice selection, which ends the opening of a song.
   void set_starteffect(std::function<void()> starteffect) { starteffect_ = std::move(starteffect); }
-  /// Told after each step of a save.
-  void set_save_observer(SaveObserver observer) { save_observer_ = std::move(observer); }
 
   /// Writes the song to the current file name and clears `modified`. The old file stays until the
   /// new one is whole.
@@ -50,12 +47,6 @@ class SongFile {
   /// afterwards.
   bool read(FieldReader& fields);
 
-  /// The loop index that the song routines share for tracks. After a pass over all tracks it stands
-  /// one past the last; the message about newer versions shows it in place of a version, as users
-  /// know it.
-  int shared_index() const { return shared_index_; }
-  void set_shared_index(int index) { shared_index_ = index; }
-
  private:
   bool accept_version(double version);
   void read_or_put_back(FieldReader& fields, double version);
@@ -72,7 +63,9 @@ class SongFile {
   Dialogs& dialogs_;
   ProgressBox& progress_;
   std::function<void()> starteffect_;
-  SaveObserver save_observer_;
+  /// The loop index that the song routines share for tracks. After a pass over all tracks it stands
+  /// one past the last; the message about newer versions shows it in place of a version, as users
+  /// know it.
   int shared_index_ = 0;
 };
 

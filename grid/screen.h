@@ -23,10 +23,10 @@ class Screen {
   /// Fits the `tracks` grid and the track scroll bar to a number of tracks.
   void fit(int track_count);
 
-  /// Height of the `tracks` grid in pixels.
+  // Where the `tracks` grid stands by these measures, in pixels. They are a screen's: a window that
+  // has another size gives the grid what room there is.
   Property<int> tracks_height;
-  /// Top of the `tracks` grid in pixels, 0 until the extended area first moves it.
-  Property<int> tracks_top;
+  Property<int> tracks_top;  ///< 0 until the extended area first moves it
   /// The scroll bar `defilchan`: value 1..maximum is the first visible track.
   Property<int> defilchan_max{1};
   Property<int> defilchan{1};

@@ -17,7 +17,6 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
 namespace lunavox {
@@ -202,7 +201,9 @@ MiscPanel::MiscPanel(Song& song, RecordOptions& options, Property<bool>& area,
   strength->on_done(handlers.done);
   strength->setToolTip(QStringLiteral("Velocity of entered notes (1-127)"));
   strength->setMaximumHeight(theme::scaled(20));
-  follow(options.velocity, strength, [strength](bool played) { strength->set_enabled(!played); });
+  follow(options.velocity, strength, [strength, &options](bool /*played*/) {
+    strength->set_enabled(options.strength_enabled());
+  });
   auto* velocity_row = new QHBoxLayout;
   velocity_row->setSpacing(theme::scaled(6));
   velocity_row->addWidget(make_caption(QStringLiteral("Velocity"), this));

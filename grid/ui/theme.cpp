@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QFontDatabase>
-#include <QFontMetrics>
 #include <QPalette>
 #include <QPixmapCache>
 #include <QScreen>
@@ -71,7 +70,6 @@ QLineEdit { background: #0f1115; color: #eceef2; border: 1px solid #30353f; bord
   padding: 1px 4px; selection-background-color: #ffb454; selection-color: #000000; }
 QLineEdit:focus { border-color: #ffb454; }
 QLineEdit:disabled { color: #585f6d; border-color: #262b34; }
-QLineEdit[readOnly="true"] { border-color: #262b34; }
 QComboBox { background: #0f1115; color: #dadde3; border: 1px solid #30353f; border-radius: 3px;
   padding: 1px 4px 1px 6px; combobox-popup: 0; }
 QComboBox:focus, QComboBox:on { border-color: #ffb454; }
@@ -114,8 +112,6 @@ QListWidget::item { padding: 0 6px; border: none; background: transparent; color
 QListWidget::item:selected { background: #ffb454; color: #000000; }
 QGroupBox { border: 1px solid #30353f; border-radius: 4px; margin-top: 9px; padding-top: 6px; }
 QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; color: #8d94a3; }
-QProgressBar { background: #0f1115; border: 1px solid #30353f; border-radius: 3px; height: 8px; }
-QProgressBar::chunk { background: #ffb454; border-radius: 2px; }
 )";
 
 }  // namespace

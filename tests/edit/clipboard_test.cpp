@@ -75,7 +75,6 @@ TEST_F(ClipboardTest, ASelectionAcrossTracksIsRefused) {
   clipboard.cutproc();
   EXPECT_THAT(dialogs.messages, ElementsAre(kSelectionRefused, kSelectionRefused));
   EXPECT_FALSE(clipboard.can_paste());
-  EXPECT_FALSE(clipboard.can_copy());
   EXPECT_FALSE(flags.modified);
 }
 
