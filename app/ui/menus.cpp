@@ -1,5 +1,6 @@
 #include "app/ui/menus.h"
 
+#include "files/recent_files.h"
 #include "grid/ui/follow.h"
 
 #include <QAction>
@@ -10,8 +11,6 @@
 
 namespace lunavox {
 namespace {
-
-constexpr int kRecentSongs = 8;
 
 QMenu& add_menu(QMenuBar& bar, const char* name, const char* caption) {
   QMenu* menu = bar.addMenu(QLatin1String(caption));
@@ -109,17 +108,17 @@ void build_output_menu(QMenuBar& bar, const MenuCommands& commands,
   });
 }
 
-/// The latest songs, after the file commands.
+/// The latest songs, after the file commands. Their folders show over them, for two songs may bear
+/// one name.
 void add_recent_songs(QMenu& menu, const MenuCommands& commands,
                       Property<std::vector<std::string>>& recent) {
+  menu.setToolTipsVisible(true);
   QAction* separator = menu.addSeparator();
   std::vector<QAction*> items;
-  for (int index = 0; index < kRecentSongs; ++index) {
+  for (std::size_t index = 0; index < RecentFiles::kMost; ++index) {
     QAction& item = add(menu, "", "", [&recent, open = commands.open_recent, index] {
       const auto& names = recent.get();
-      if (index < static_cast<int>(names.size())) {
-        open(std::string(names[static_cast<std::size_t>(index)]));
-      }
+      if (index < names.size()) open(std::string(names[index]));
     });
     item.setObjectName(QStringLiteral("recent%1").arg(index));
     items.push_back(&item);
@@ -132,7 +131,7 @@ void add_recent_songs(QMenu& menu, const MenuCommands& commands,
       const QString name = QString::fromStdString(names[i]);
       QString caption = QFileInfo(name).fileName();
       items[i]->setText(caption.replace(QLatin1Char('&'), QStringLiteral("&&")));
-      items[i]->setStatusTip(name);
+      items[i]->setToolTip(QStringLiteral("<p style='white-space:pre'>") + name.toHtmlEscaped());
     }
   });
 }

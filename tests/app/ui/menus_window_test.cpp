@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTableView>
+#include <QTextDocumentFragment>
 
 #include <gmock/gmock.h>
 
@@ -97,6 +98,18 @@ TEST_F(MenusTest, AnOutputsNameIsShownToTheLetter) {
   EXPECT_EQ(entry("output1").text().toStdString(), "Pads && Keys") << "not a letter to press";
   EXPECT_TRUE(entry("output1").isChecked());
   EXPECT_FALSE(entry("output0").isChecked());
+}
+
+TEST_F(MenusTest, ALatestSongShowsItsWholeNameOverItToTheLetter) {
+  recent = std::vector<std::string>{"/music/old/song.lvx", "/music/<b>/song.lvx"};
+  EXPECT_EQ(entry("recent0").text().toStdString(), "song.lvx");
+  EXPECT_EQ(entry("recent1").text().toStdString(), "song.lvx");
+  const auto shown = [&](const char* name) {
+    return QTextDocumentFragment::fromHtml(entry(name).toolTip()).toPlainText().toStdString();
+  };
+  EXPECT_EQ(shown("recent0"), "/music/old/song.lvx");
+  EXPECT_EQ(shown("recent1"), "/music/<b>/song.lvx");
+  EXPECT_TRUE(bar.findChild<QMenu*>("menufile")->toolTipsVisible());
 }
 
 struct MenusWindowTest : testing::Test {
