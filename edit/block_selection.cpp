@@ -1,5 +1,7 @@
 #include "edit/block_selection.h"
 
+#include "grid/note_text.h"
+
 namespace lunavox {
 
 std::optional<CellRegion> selected_block(const Song& song) {

@@ -2,7 +2,6 @@
 
 #include "grid/cell_grid.h"
 #include "grid/dialogs.h"
-#include "grid/note_text.h"
 #include "grid/song.h"
 
 #include <optional>

@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <cstdio>
 #include <memory>
-#include <string_view>
 
 namespace lunavox {
 namespace {

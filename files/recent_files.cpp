@@ -4,7 +4,6 @@
 #include "files/file_bytes.h"
 #include "grid/runtime_error.h"
 
-#include <algorithm>
 #include <sstream>
 
 namespace lunavox {

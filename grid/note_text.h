@@ -2,7 +2,6 @@
 
 #include "grid/colour.h"
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 

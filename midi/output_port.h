@@ -5,7 +5,6 @@
 #include "midi/devices.h"
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -22,7 +21,8 @@ class OutputPort {
   bool open(int device);
   void close();
   bool is_open() const { return device_ != nullptr; }
-  /// Number last chosen, -1 for the system's default.
+  /// Number last chosen, -1 for the system's default; it stays where the device could not be
+  /// opened.
   int current_device() const { return current_device_; }
   OutputDevice* device() const { return device_.get(); }
 

@@ -11,14 +11,11 @@
 #include <functional>
 #include <string>
 
-class QMenu;
-
 namespace lunavox {
 
 class NoteKeyboard;
 class PanelStrip;
 class SkinPictures;
-class TracksView;
 
 /// What the main window shows and lets the user change.
 struct WindowModel {

@@ -10,16 +10,13 @@
 #include <string>
 
 class QCheckBox;
-class QComboBox;
 class QGridLayout;
 
 namespace lunavox {
 
 class Bookmarks;
-class NumberFieldBox;
 class Recorder;
 class SkinPictures;
-class SongLength;
 class Transport;
 class XgEffects;
 

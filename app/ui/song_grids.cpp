@@ -6,7 +6,6 @@
 
 #include <QHBoxLayout>
 #include <QScrollBar>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 

@@ -5,7 +5,6 @@
 #include <array>
 #include <cstdlib>
 #include <memory>
-#include <vector>
 
 #ifdef LUNAVOX_XCB
 #include <xcb/xcb.h>

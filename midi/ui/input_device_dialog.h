@@ -3,7 +3,6 @@
 #include "grid/dialogs.h"
 
 #include <QDialog>
-#include <functional>
 #include <string>
 #include <vector>
 
