@@ -10,11 +10,11 @@ namespace {
 
 using ::testing::IsEmpty;
 
-struct DrumKitDialog : test::VoiceBench {
-  DrumKitDialog() { bench.song.current_track = 1; }
+struct DrumChoiceTest : test::VoiceBench {
+  DrumChoiceTest() { bench.song.current_track = 1; }
 };
 
-TEST_F(DrumKitDialog, OkTakesTheKitAndSendsAllVoices) {
+TEST_F(DrumChoiceTest, OkTakesTheKitAndSendsAllVoices) {
   EXPECT_TRUE(drums.drumok_click(7));
   EXPECT_TRUE(bench.flags.modified);
   EXPECT_EQ(voice_name.get(), "brush");
@@ -24,7 +24,7 @@ TEST_F(DrumKitDialog, OkTakesTheKitAndSendsAllVoices) {
   EXPECT_EQ(drums.current_kit(), 7);
 }
 
-TEST_F(DrumKitDialog, ADoubleClickDoesNotSetModified) {
+TEST_F(DrumChoiceTest, ADoubleClickDoesNotSetModified) {
   EXPECT_TRUE(drums.drumlist_dblclick(2));
   EXPECT_FALSE(bench.flags.modified);
   EXPECT_EQ(bench.song.values.at(1, 1, 1), 8);
@@ -34,14 +34,14 @@ TEST_F(DrumKitDialog, ADoubleClickDoesNotSetModified) {
   EXPECT_TRUE(bench.flags.modified);
 }
 
-TEST_F(DrumKitDialog, NothingHappensWithoutAKitSelected) {
+TEST_F(DrumChoiceTest, NothingHappensWithoutAKitSelected) {
   EXPECT_FALSE(drums.drumok_click(-1));
   EXPECT_FALSE(drums.drumok_click(9));
   EXPECT_FALSE(bench.flags.modified);
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(DrumKitDialog, OpensOnTheCurrentKit) {
+TEST_F(DrumChoiceTest, OpensOnTheCurrentKit) {
   EXPECT_EQ(drums.current_kit(), 0);
   bench.song.values.at(1, 1, 1) = 3;
   EXPECT_EQ(drums.current_kit(), -1);

@@ -11,12 +11,12 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-struct InstrumentDialog : test::VoiceBench {
-  InstrumentDialog()
+struct VoiceChoiceTest : test::VoiceBench {
+  VoiceChoiceTest()
       : VoiceBench(VoiceBanks::parse("GrandPno,0,0\r\nDream,41,0\r\nBritePno,0,1\r\n"), {}) {}
 };
 
-TEST_F(InstrumentDialog, PressingACellPlaysItsVoiceOnChannelSixteen) {
+TEST_F(VoiceChoiceTest, PressingACellPlaysItsVoiceOnChannelSixteen) {
   voices.instrulist_mousedown({0, 1});
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x0000BFU, 0x2920BFU, 0x00CFU, 0x7E3C9FU));
   voices.instrulist_mouseup();
@@ -27,7 +27,7 @@ TEST_F(InstrumentDialog, PressingACellPlaysItsVoiceOnChannelSixteen) {
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x0000BFU, 0x0020BFU, 0x01CFU, 0x7E3C9FU));
 }
 
-TEST_F(InstrumentDialog, OctaveSixPreviewsNote84AndOctaveOneNote24) {
+TEST_F(VoiceChoiceTest, OctaveSixPreviewsNote84AndOctaveOneNote24) {
   voices.text1_change("6");
   voices.instrulist_mousedown({0, 0});
   EXPECT_EQ(output.take_shorts().back(), 0x7E549FU);
@@ -38,25 +38,25 @@ TEST_F(InstrumentDialog, OctaveSixPreviewsNote84AndOctaveOneNote24) {
   EXPECT_EQ(output.take_shorts().back(), 0x7E189FU);
 }
 
-TEST_F(InstrumentDialog, PressingACellWithoutAVoiceSendsNothing) {
+TEST_F(VoiceChoiceTest, PressingACellWithoutAVoiceSendsNothing) {
   voices.instrulist_mousedown({0, 2});
   voices.instrulist_mouseup();
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(InstrumentDialog, AnEmptyCellPlaysTheBasicVoiceOfItsProgram) {
+TEST_F(VoiceChoiceTest, AnEmptyCellPlaysTheBasicVoiceOfItsProgram) {
   voices.instrulist_mousedown({1, 4});
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x0000BFU, 0x0020BFU, 0x01CFU, 0x7E3C9FU));
 }
 
-TEST_F(InstrumentDialog, NothingSoundsWhilePreviewIsNotTicked) {
+TEST_F(VoiceChoiceTest, NothingSoundsWhilePreviewIsNotTicked) {
   voices.preview = false;
   voices.instrulist_mousedown({0, 0});
   voices.instrulist_mouseup();
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(InstrumentDialog, ReleaseEndsTheNoteThatWasPressed) {
+TEST_F(VoiceChoiceTest, ReleaseEndsTheNoteThatWasPressed) {
   voices.instrulist_mousedown({0, 0});
   voices.text1_change("5");
   output.calls.clear();
@@ -64,7 +64,7 @@ TEST_F(InstrumentDialog, ReleaseEndsTheNoteThatWasPressed) {
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x003C9FU));
 }
 
-TEST_F(InstrumentDialog, TheOctaveIsOneToSixAndABadEntryReturnsToTheLast) {
+TEST_F(VoiceChoiceTest, TheOctaveIsOneToSixAndABadEntryReturnsToTheLast) {
   EXPECT_EQ(voices.octave.text(), "4");
   EXPECT_FALSE(voices.text1_change("7"));
   EXPECT_FALSE(voices.text1_change("0"));
@@ -78,13 +78,13 @@ TEST_F(InstrumentDialog, TheOctaveIsOneToSixAndABadEntryReturnsToTheLast) {
   EXPECT_EQ(voices.octave.value(), 6);
 }
 
-TEST_F(InstrumentDialog, TheOctavesTextIsGreyWhilePreviewIsNotTicked) {
+TEST_F(VoiceChoiceTest, TheOctavesTextIsGreyWhilePreviewIsNotTicked) {
   EXPECT_EQ(voices.octave_colour(), (Colour{255, 255, 255}));
   voices.preview = false;
   EXPECT_EQ(voices.octave_colour(), (Colour{64, 64, 64}));
 }
 
-TEST_F(InstrumentDialog, OkTakesTheVoiceForTheCurrentTrackAndSendsAllVoices) {
+TEST_F(VoiceChoiceTest, OkTakesTheVoiceForTheCurrentTrackAndSendsAllVoices) {
   EXPECT_TRUE(voices.instruok_click({0, 1}));
   EXPECT_TRUE(bench.flags.modified);
   EXPECT_EQ(voice_name.get(), "Dream");
@@ -98,7 +98,7 @@ TEST_F(InstrumentDialog, OkTakesTheVoiceForTheCurrentTrackAndSendsAllVoices) {
   EXPECT_EQ(bench.song.bank.at(2), 0);
 }
 
-TEST_F(InstrumentDialog, OkOnACellWithoutAVoiceKeepsTheDialogOpen) {
+TEST_F(VoiceChoiceTest, OkOnACellWithoutAVoiceKeepsTheDialogOpen) {
   EXPECT_FALSE(voices.instruok_click({0, 2}));
   EXPECT_FALSE(voices.instruok_click({1, 1})) << "nothing follows the last voice of all";
   const Message refusal = test::error_box("you must select a valid instrument", "error");
@@ -109,7 +109,7 @@ TEST_F(InstrumentDialog, OkOnACellWithoutAVoiceKeepsTheDialogOpen) {
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(InstrumentDialog, OpensOnTheCurrentVoice) {
+TEST_F(VoiceChoiceTest, OpensOnTheCurrentVoice) {
   EXPECT_EQ(voices.current_voice(), (VoiceCell{0, 0}));
   bench.song.bank.at(2) = 41;
   EXPECT_EQ(voices.current_voice(), (VoiceCell{0, 1}));

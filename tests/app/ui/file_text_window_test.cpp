@@ -11,7 +11,7 @@
 namespace lunavox {
 namespace {
 
-TEST(FileText, SongsAndBanksShowTheirTextsSo) {
+TEST(FileTextWindow, SongsAndBanksShowTheirTextsSo) {
   test::WindowBench bench;
   bench.editor.song.bookmarks = std::vector<Bookmark>{{"Fl\xf6te", 1}};
   EXPECT_EQ(bench.find<QComboBox>("bookmark").itemText(0), QStringLiteral("Fl\u00f6te"));
@@ -36,7 +36,7 @@ TEST(FileText, SongsAndBanksShowTheirTextsSo) {
   bench.find<QDialog>("Form5").reject();
 }
 
-TEST(FileText, WhatCannotBeReadAsUtf8GoesBackIntoTheFileUnchanged) {
+TEST(FileTextWindow, WhatCannotBeReadAsUtf8GoesBackIntoTheFileUnchanged) {
   test::TempFolder folder;
   test::WindowBench bench;
   bench.editor.song.bookmarks = std::vector<Bookmark>{{"Fl\xf6te", 1}};

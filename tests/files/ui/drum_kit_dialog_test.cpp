@@ -17,9 +17,9 @@ using test::press_key;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-class KitDialog : public test::VoiceBench {
+class DrumKitDialogTest : public test::VoiceBench {
  protected:
-  KitDialog() {
+  DrumKitDialogTest() {
     song().current_track = kDrumTrack;
     song().values.at(kDrumTrack, kInstrument, 1) = 16;
     show();
@@ -38,7 +38,7 @@ class KitDialog : public test::VoiceBench {
   QListWidget& drumlist = control<QListWidget>(dialog, "drumlist");
 };
 
-TEST_F(KitDialog, ListsTheNineKitsWithTheirPrograms) {
+TEST_F(DrumKitDialogTest, ListsTheNineKitsWithTheirPrograms) {
   EXPECT_EQ(dialog.objectName(), "Form4");
   ASSERT_EQ(drumlist.count(), 9);
   EXPECT_EQ(drumlist.item(0)->text(), "standard 1");
@@ -48,7 +48,7 @@ TEST_F(KitDialog, ListsTheNineKitsWithTheirPrograms) {
   EXPECT_EQ(drumlist.item(8)->data(Qt::UserRole).toInt(), 48);
 }
 
-TEST_F(KitDialog, OpensWithTheTracksKitSelectedEachTime) {
+TEST_F(DrumKitDialogTest, OpensWithTheTracksKitSelectedEachTime) {
   EXPECT_EQ(drumlist.currentItem()->text(), "rock");
   EXPECT_TRUE(drumlist.hasFocus());
   dialog.reject();
@@ -57,7 +57,7 @@ TEST_F(KitDialog, OpensWithTheTracksKitSelectedEachTime) {
   EXPECT_EQ(drumlist.currentItem()->text(), "classic");
 }
 
-TEST_F(KitDialog, AKitThatTheListDoesNotHaveLeavesNothingToConfirm) {
+TEST_F(DrumKitDialogTest, AKitThatTheListDoesNotHaveLeavesNothingToConfirm) {
   dialog.reject();
   song().values.at(kDrumTrack, kInstrument, 1) = 99;
   show();
@@ -70,7 +70,7 @@ TEST_F(KitDialog, AKitThatTheListDoesNotHaveLeavesNothingToConfirm) {
   EXPECT_TRUE(control<QPushButton>(dialog, "drumok").isEnabled());
 }
 
-TEST_F(KitDialog, OkTakesTheKitAndMarksTheSongModified) {
+TEST_F(DrumKitDialogTest, OkTakesTheKitAndMarksTheSongModified) {
   QTest::mouseClick(drumlist.viewport(), Qt::LeftButton, {}, place_of(6));
   click_ok();
   EXPECT_FALSE(dialog.isVisible());
@@ -80,7 +80,7 @@ TEST_F(KitDialog, OkTakesTheKitAndMarksTheSongModified) {
   EXPECT_THAT(output.calls, Not(IsEmpty()));
 }
 
-TEST_F(KitDialog, ADoubleClickTakesTheKitAndLeavesTheSongUnmodified) {
+TEST_F(DrumKitDialogTest, ADoubleClickTakesTheKitAndLeavesTheSongUnmodified) {
   QTest::mouseClick(drumlist.viewport(), Qt::LeftButton, {}, place_of(7));
   QTest::mouseDClick(drumlist.viewport(), Qt::LeftButton, {}, place_of(7));
   EXPECT_FALSE(dialog.isVisible());
@@ -90,7 +90,7 @@ TEST_F(KitDialog, ADoubleClickTakesTheKitAndLeavesTheSongUnmodified) {
   EXPECT_THAT(output.calls, Not(IsEmpty()));
 }
 
-TEST_F(KitDialog, CancelAndEscapeChangeNothing) {
+TEST_F(DrumKitDialogTest, CancelAndEscapeChangeNothing) {
   press_key(dialog, Qt::Key_Down);
   QTest::mouseClick(&control<QPushButton>(dialog, "drumcancel"), Qt::LeftButton);
   EXPECT_FALSE(dialog.isVisible());
@@ -103,7 +103,7 @@ TEST_F(KitDialog, CancelAndEscapeChangeNothing) {
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(KitDialog, TheKeysAloneChooseAKitAndMarkTheSongModified) {
+TEST_F(DrumKitDialogTest, TheKeysAloneChooseAKitAndMarkTheSongModified) {
   press_key(dialog, Qt::Key_Down);
   press_key(dialog, Qt::Key_Return);
   EXPECT_FALSE(dialog.isVisible());
@@ -111,12 +111,12 @@ TEST_F(KitDialog, TheKeysAloneChooseAKitAndMarkTheSongModified) {
   EXPECT_TRUE(modified());
 }
 
-TEST_F(KitDialog, AKitIsFoundByTypingItsName) {
+TEST_F(DrumKitDialogTest, AKitIsFoundByTypingItsName) {
   test::type(dialog, "br");
   EXPECT_EQ(drumlist.currentItem()->text(), "brush");
 }
 
-TEST_F(KitDialog, ShowsAllKitsWithoutScrolling) {
+TEST_F(DrumKitDialogTest, ShowsAllKitsWithoutScrolling) {
   EXPECT_TRUE(drumlist.viewport()->rect().contains(drumlist.visualItemRect(drumlist.item(0))));
   EXPECT_TRUE(drumlist.viewport()->rect().contains(drumlist.visualItemRect(drumlist.item(8))));
 }

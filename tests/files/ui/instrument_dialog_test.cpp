@@ -23,9 +23,9 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-class VoiceDialog : public test::VoiceBench {
+class InstrumentDialogTest : public test::VoiceBench {
  protected:
-  VoiceDialog() {
+  InstrumentDialogTest() {
     song().values.at(2, kInstrument, 1) = 4;
     song().bank.at(2) = 32;
     show();
@@ -77,7 +77,7 @@ class VoiceDialog : public test::VoiceBench {
   QLabel& details = control<QLabel>(dialog, "details");
 };
 
-TEST_F(VoiceDialog, HasItsCaptions) {
+TEST_F(InstrumentDialogTest, HasItsCaptions) {
   EXPECT_EQ(dialog.objectName(), "Form5");
   EXPECT_EQ(preview.text(), "Preview (play a note when an instrument is clicked)");
   EXPECT_TRUE(preview.isChecked());
@@ -88,7 +88,7 @@ TEST_F(VoiceDialog, HasItsCaptions) {
   EXPECT_TRUE(labels.contains("XG Midi"));
 }
 
-TEST_F(VoiceDialog, ShowsARowForEachProgramAndAColumnForEachOfItsVoices) {
+TEST_F(InstrumentDialogTest, ShowsARowForEachProgramAndAColumnForEachOfItsVoices) {
   EXPECT_EQ(instrulist.model()->rowCount(), 128);
   EXPECT_EQ(instrulist.model()->columnCount(), 9);
   EXPECT_EQ(cell_text(0, 0), "GrandPno");
@@ -97,14 +97,14 @@ TEST_F(VoiceDialog, ShowsARowForEachProgramAndAColumnForEachOfItsVoices) {
   EXPECT_EQ(cell_text(127, 0), "Gunshot");
 }
 
-TEST_F(VoiceDialog, AColumnIs1200TwipsWideWhereTheScreenHasRoom) {
+TEST_F(InstrumentDialogTest, AColumnIs1200TwipsWideWhereTheScreenHasRoom) {
   QCoreApplication::processEvents();
   for (int column = 0; column < 9; ++column) {
     EXPECT_EQ(instrulist.columnWidth(column), 80) << column;  // 1200 * 0.06667, rounded
   }
 }
 
-TEST_F(VoiceDialog, TheFrameOfTheBasicVoicesStandsAboveTheFirstColumnAndXgAboveTheOthers) {
+TEST_F(InstrumentDialogTest, TheFrameOfTheBasicVoicesStandsAboveTheFirstColumnAndXgAboveTheOthers) {
   const auto left = [](const QWidget& widget) { return widget.mapToGlobal(QPoint()).x(); };
   const auto& basic = control<QLabel>(dialog, "Frame1");
   const auto& xg = control<QLabel>(dialog, "Frame2");
@@ -117,7 +117,7 @@ TEST_F(VoiceDialog, TheFrameOfTheBasicVoicesStandsAboveTheFirstColumnAndXgAboveT
   EXPECT_EQ(left(xg), left(*instrulist.viewport()) + instrulist.columnWidth(0));
 }
 
-TEST_F(VoiceDialog, OpensWithTheTracksVoiceSelectedAndInSightEachTime) {
+TEST_F(InstrumentDialogTest, OpensWithTheTracksVoiceSelectedAndInSightEachTime) {
   EXPECT_EQ(selected(), "Chor.EP1");
   EXPECT_TRUE(instrulist.hasFocus());
   dialog.reject();
@@ -129,7 +129,7 @@ TEST_F(VoiceDialog, OpensWithTheTracksVoiceSelectedAndInSightEachTime) {
   EXPECT_TRUE(instrulist.viewport()->rect().contains(cell));
 }
 
-TEST_F(VoiceDialog, PressingACellPlaysAndReleasingItEnds) {
+TEST_F(InstrumentDialogTest, PressingACellPlaysAndReleasingItEnds) {
   press(0, 4);
   EXPECT_EQ(selected(), "Dream");
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x0000BFU, 0x2920BFU, 0x00CFU, 0x7E3C9FU));
@@ -137,7 +137,7 @@ TEST_F(VoiceDialog, PressingACellPlaysAndReleasingItEnds) {
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x003C9FU));
 }
 
-TEST_F(VoiceDialog, TheNoteEndsWhereverTheMouseIsReleasedAndTheVoiceStaysSelected) {
+TEST_F(InstrumentDialogTest, TheNoteEndsWhereverTheMouseIsReleasedAndTheVoiceStaysSelected) {
   press(0, 4);
   output.calls.clear();
   QTest::mouseMove(instrulist.viewport(), place_of(3, 1));
@@ -146,7 +146,7 @@ TEST_F(VoiceDialog, TheNoteEndsWhereverTheMouseIsReleasedAndTheVoiceStaysSelecte
   EXPECT_EQ(selected(), "Dream");
 }
 
-TEST_F(VoiceDialog, ADoubleClickPlaysTwiceAndDoesNotChoose) {
+TEST_F(InstrumentDialogTest, ADoubleClickPlaysTwiceAndDoesNotChoose) {
   const QPoint place = place_of(0, 0);
   QTest::mouseClick(instrulist.viewport(), Qt::LeftButton, {}, place);
   QTest::mouseDClick(instrulist.viewport(), Qt::LeftButton, {}, place);
@@ -162,18 +162,18 @@ TEST_F(VoiceDialog, ADoubleClickPlaysTwiceAndDoesNotChoose) {
   EXPECT_EQ(starts, ends);
 }
 
-TEST_F(VoiceDialog, PressingACellWithoutAVoiceSendsNothing) {
+TEST_F(InstrumentDialogTest, PressingACellWithoutAVoiceSendsNothing) {
   press(0, 5);
   release();
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(VoiceDialog, OnlyTheLeftButtonPlays) {
+TEST_F(InstrumentDialogTest, OnlyTheLeftButtonPlays) {
   QTest::mouseClick(instrulist.viewport(), Qt::RightButton, {}, place_of(0, 4));
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(VoiceDialog, SpacePlaysWhileItIsHeld) {
+TEST_F(InstrumentDialogTest, SpacePlaysWhileItIsHeld) {
   click(0, 4);
   QTest::keyPress(&instrulist, Qt::Key_Space);
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x0000BFU, 0x2920BFU, 0x00CFU, 0x7E3C9FU));
@@ -186,7 +186,7 @@ TEST_F(VoiceDialog, SpacePlaysWhileItIsHeld) {
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x003C9FU));
 }
 
-TEST_F(VoiceDialog, ANoteThatIsHeldEndsWhenTheDialogClosesOrTheKeysGoElsewhere) {
+TEST_F(InstrumentDialogTest, ANoteThatIsHeldEndsWhenTheDialogClosesOrTheKeysGoElsewhere) {
   click(0, 0);
   QTest::keyPress(&instrulist, Qt::Key_Space);
   output.calls.clear();
@@ -198,7 +198,7 @@ TEST_F(VoiceDialog, ANoteThatIsHeldEndsWhenTheDialogClosesOrTheKeysGoElsewhere) 
   EXPECT_THAT(output.take_shorts(), ElementsAre(0x003C9FU));
 }
 
-TEST_F(VoiceDialog, APressEndsTheNoteThatIsStillHeld) {
+TEST_F(InstrumentDialogTest, APressEndsTheNoteThatIsStillHeld) {
   click(0, 4);
   QTest::keyPress(&instrulist, Qt::Key_Space);
   output.calls.clear();
@@ -207,7 +207,7 @@ TEST_F(VoiceDialog, APressEndsTheNoteThatIsStillHeld) {
               ElementsAre(0x003C9FU, 0x0000BFU, 0x0020BFU, 0x01CFU, 0x7E3C9FU));
 }
 
-TEST_F(VoiceDialog, WithPreviewUntickedNothingSoundsAndTheOctaveIsGrey) {
+TEST_F(InstrumentDialogTest, WithPreviewUntickedNothingSoundsAndTheOctaveIsGrey) {
   click_preview();
   EXPECT_FALSE(text1.isEnabled());
   EXPECT_FALSE(oct.isEnabled());
@@ -221,7 +221,7 @@ TEST_F(VoiceDialog, WithPreviewUntickedNothingSoundsAndTheOctaveIsGrey) {
   EXPECT_EQ(octave_colour(), QColor(255, 255, 255));
 }
 
-TEST_F(VoiceDialog, TheOctaveIsTypedOneToSixAndMovesTheScrollBar) {
+TEST_F(InstrumentDialogTest, TheOctaveIsTypedOneToSixAndMovesTheScrollBar) {
   EXPECT_EQ(oct.minimum(), 1);
   EXPECT_EQ(oct.maximum(), 6);
   type_octave("6");
@@ -236,7 +236,7 @@ TEST_F(VoiceDialog, TheOctaveIsTypedOneToSixAndMovesTheScrollBar) {
   EXPECT_THAT(dialogs().messages, IsEmpty());
 }
 
-TEST_F(VoiceDialog, AnOctaveOutOfRangeIsRefusedAndTheLastReturns) {
+TEST_F(InstrumentDialogTest, AnOctaveOutOfRangeIsRefusedAndTheLastReturns) {
   type_octave("2");
   type_octave("7");
   EXPECT_THAT(dialogs().messages, ElementsAre(test::error_box("Invalid value (1-6)")));
@@ -247,19 +247,19 @@ TEST_F(VoiceDialog, AnOctaveOutOfRangeIsRefusedAndTheLastReturns) {
   EXPECT_EQ(oct.value(), 2);
 }
 
-TEST_F(VoiceDialog, MovingTheScrollBarWritesTheOctave) {
+TEST_F(InstrumentDialogTest, MovingTheScrollBarWritesTheOctave) {
   QTest::mouseClick(&oct, Qt::LeftButton, {}, {oct.width() / 2, 3});
   EXPECT_EQ(text1.text(), "5");
   EXPECT_EQ(voices.octave.value(), 5);
 }
 
-TEST_F(VoiceDialog, EnterInTheOctaveGivesTheKeysBackToTheGridAndChoosesNothing) {
+TEST_F(InstrumentDialogTest, EnterInTheOctaveGivesTheKeysBackToTheGridAndChoosesNothing) {
   type_octave("3");
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_TRUE(instrulist.hasFocus());
 }
 
-TEST_F(VoiceDialog, EscapeTakesBackAHalfTypedOctaveWithoutAWord) {
+TEST_F(InstrumentDialogTest, EscapeTakesBackAHalfTypedOctaveWithoutAWord) {
   text1.setFocus();
   text1.selectAll();
   QTest::keyClicks(&text1, "9");
@@ -269,7 +269,7 @@ TEST_F(VoiceDialog, EscapeTakesBackAHalfTypedOctaveWithoutAWord) {
   EXPECT_EQ(text1.text(), "4");
 }
 
-TEST_F(VoiceDialog, OkTakesTheVoice) {
+TEST_F(InstrumentDialogTest, OkTakesTheVoice) {
   click(1, 1);
   click_button("instruok");
   EXPECT_FALSE(dialog.isVisible());
@@ -280,7 +280,7 @@ TEST_F(VoiceDialog, OkTakesTheVoice) {
   EXPECT_THAT(output.calls, Not(IsEmpty()));
 }
 
-TEST_F(VoiceDialog, OkOnACellWithoutAVoiceIsRefusedAndChangesNothing) {
+TEST_F(InstrumentDialogTest, OkOnACellWithoutAVoiceIsRefusedAndChangesNothing) {
   click(0, 5);
   click_button("instruok");
   EXPECT_THAT(dialogs().messages,
@@ -291,7 +291,7 @@ TEST_F(VoiceDialog, OkOnACellWithoutAVoiceIsRefusedAndChangesNothing) {
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(VoiceDialog, CancelAndEscapeChangeNothing) {
+TEST_F(InstrumentDialogTest, CancelAndEscapeChangeNothing) {
   click(1, 1);
   click_button("instrucancel");
   EXPECT_FALSE(dialog.isVisible());
@@ -304,7 +304,7 @@ TEST_F(VoiceDialog, CancelAndEscapeChangeNothing) {
   EXPECT_THAT(output.calls, IsEmpty());
 }
 
-TEST_F(VoiceDialog, TheKeysAloneChooseAVoice) {
+TEST_F(InstrumentDialogTest, TheKeysAloneChooseAVoice) {
   press_key(dialog, Qt::Key_Down);
   press_key(dialog, Qt::Key_Left);
   press_key(dialog, Qt::Key_Return);
@@ -313,7 +313,7 @@ TEST_F(VoiceDialog, TheKeysAloneChooseAVoice) {
   EXPECT_TRUE(modified());
 }
 
-TEST_F(VoiceDialog, AVoiceIsFoundByTypingItsName) {
+TEST_F(InstrumentDialogTest, AVoiceIsFoundByTypingItsName) {
   test::type(dialog, "panf");
   EXPECT_EQ(selected(), "PanFlute");
   EXPECT_TRUE(details.text().contains("panf"));
@@ -322,7 +322,7 @@ TEST_F(VoiceDialog, AVoiceIsFoundByTypingItsName) {
   EXPECT_EQ(selected(), "PanFlute");
 }
 
-TEST_F(VoiceDialog, BackspaceTakesBackAWholeCharacterOfTheName) {
+TEST_F(InstrumentDialogTest, BackspaceTakesBackAWholeCharacterOfTheName) {
   QKeyEvent typed(QEvent::KeyPress, Qt::Key_Eacute, {}, QStringLiteral("\u00e9"));
   QCoreApplication::sendEvent(&instrulist, &typed);
   EXPECT_TRUE(details.text().contains(QStringLiteral("\u00e9")));
@@ -330,19 +330,19 @@ TEST_F(VoiceDialog, BackspaceTakesBackAWholeCharacterOfTheName) {
   EXPECT_FALSE(details.text().contains(QStringLiteral("Find"))) << details.text().toStdString();
 }
 
-TEST_F(VoiceDialog, WhatIsTypedIsShownAsItIsTyped) {
+TEST_F(InstrumentDialogTest, WhatIsTypedIsShownAsItIsTyped) {
   test::type(dialog, "<b>");
   EXPECT_EQ(details.textFormat(), Qt::PlainText);
 }
 
-TEST_F(VoiceDialog, F3GoesOnToTheNextVoiceOfThatName) {
+TEST_F(InstrumentDialogTest, F3GoesOnToTheNextVoiceOfThatName) {
   test::type(dialog, "harps");
   EXPECT_EQ(selected(), "Harpsi.");
   press_key(dialog, Qt::Key_F3);
   EXPECT_EQ(selected(), "Harpsi.K");
 }
 
-TEST_F(VoiceDialog, ANameThatNoVoiceHasIsSaidAndLeavesTheSelection) {
+TEST_F(InstrumentDialogTest, ANameThatNoVoiceHasIsSaidAndLeavesTheSelection) {
   test::type(dialog, "zz");
   EXPECT_EQ(selected(), "Jazz Gtr");
   test::type(dialog, "z");
@@ -350,7 +350,7 @@ TEST_F(VoiceDialog, ANameThatNoVoiceHasIsSaidAndLeavesTheSelection) {
   EXPECT_TRUE(details.text().contains("no such voice"));
 }
 
-TEST_F(VoiceDialog, AnArrowKeyEndsTheSearch) {
+TEST_F(InstrumentDialogTest, AnArrowKeyEndsTheSearch) {
   test::type(dialog, "panf");
   press_key(dialog, Qt::Key_Down);
   EXPECT_FALSE(details.text().contains("panf"));
@@ -358,7 +358,7 @@ TEST_F(VoiceDialog, AnArrowKeyEndsTheSearch) {
   EXPECT_EQ(selected(), "GrandPno");
 }
 
-TEST_F(VoiceDialog, AKeyThatOnlyChangesOthersDoesNotEndTheSearch) {
+TEST_F(InstrumentDialogTest, AKeyThatOnlyChangesOthersDoesNotEndTheSearch) {
   test::type(dialog, "pan");
   for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_CapsLock, Qt::Key_AltGr}) {
     QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
@@ -369,7 +369,7 @@ TEST_F(VoiceDialog, AKeyThatOnlyChangesOthersDoesNotEndTheSearch) {
   EXPECT_EQ(selected(), "PanFlute");
 }
 
-TEST_F(VoiceDialog, SaysWhatTheSelectedCellIs) {
+TEST_F(InstrumentDialogTest, SaysWhatTheSelectedCellIs) {
   EXPECT_EQ(details.text(), "Chor.EP1 \u2014 program 4, bank 32, Piano");
   click(0, 5);
   EXPECT_EQ(details.text(), "No voice");
