@@ -1,7 +1,6 @@
 #pragma once
 
 #include "grid/dialogs.h"
-#include "midi/count_in_window.h"
 
 #include <ostream>
 #include <string>
@@ -22,14 +21,6 @@ class ConsoleDialogs : public NoDialogs {
  private:
   std::ostream& errors_;
   bool told_ = false;
-};
-
-/// No count-in is ever run without a window.
-class NoCountIn : public CountInWindow {
- public:
-  void show(const std::string&) override {}
-  void set_caption(const std::string&) override {}
-  void hide() override {}
 };
 
 }  // namespace lunavox

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "grid/button_pictures.h"
 #include "grid/dialogs.h"
 #include "grid/flags.h"
 #include "grid/property.h"
 #include "grid/song.h"
-#include "midi/button_pictures.h"
 
 namespace lunavox {
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kNoDevice = "input=";
 
-std::string file_text(const std::string& input_line) {
+std::string config_bytes(const std::string& input_line) {
   return input_line + "\r\nboot=1\r\n";
 }
 
@@ -26,7 +26,7 @@ void Config::load() {
   input_line_ = fields.text();
   fields.text();  // the value of "boot=" says nothing
   // A file that would come out the same is left alone, so that it may well be read-only.
-  if (bytes != file_text(input_line_)) write(input_line_);
+  if (bytes != config_bytes(input_line_)) write(input_line_);
 }
 
 bool Config::asks_for_input() const {
@@ -50,7 +50,7 @@ void Config::write(const std::string& input_line) {
   std::error_code none;
   std::filesystem::create_directories(file_.parent_path(), none);
   AtomicFile file(file_);
-  file.write(file_text(input_line));
+  file.write(config_bytes(input_line));
   file.commit();
   input_line_ = input_line;
 }

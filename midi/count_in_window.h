@@ -17,4 +17,12 @@ class CountInWindow {
   virtual void hide() = 0;
 };
 
+/// Shows no count-in: for runs without a window.
+class NoCountIn : public CountInWindow {
+ public:
+  void show(const std::string&) override {}
+  void set_caption(const std::string&) override {}
+  void hide() override {}
+};
+
 }  // namespace lunavox

@@ -36,7 +36,7 @@ class OutputDevice {
   /// The text for a result code of this device.
   virtual std::string error_text(MidiResult result) const = 0;
 
-  /// Silences the device (midiOutReset).
+  /// Silences the device.
   virtual void reset() = 0;
 
   /// One sentence on anything the user should know of the device, such as that it is silent for
@@ -50,7 +50,7 @@ class OutputDevice {
 class OutputDevices {
  public:
   virtual ~OutputDevices() = default;
-  /// Names of devices 0, 1, ... (midiOutGetNumDevs, midiOutGetDevCapsA).
+  /// Names of devices 0, 1, ...
   virtual std::vector<std::string> names() = 0;
   /// Opens a device, or kDefaultOutput. Null when it cannot be opened; why is then in open_error().
   virtual std::unique_ptr<OutputDevice> open(int device) = 0;

@@ -47,7 +47,7 @@ class OutputPort {
   /// Controller 123 (all notes off) on all sixteen channels.
   void all_notes_off();
 
-  /// Silences the device (midiOutReset) if one is open.
+  /// Silences the device if one is open.
   void reset_device();
 
   // The pending note-offs: for each note column (1..8) of a track the text of the message that ends

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "grid/button_pictures.h"
 #include "grid/flags.h"
 #include "grid/song.h"
-#include "midi/button_pictures.h"
 #include "midi/clock.h"
 #include "midi/input_loop.h"
 #include "midi/loop.h"

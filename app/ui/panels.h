@@ -1,9 +1,9 @@
 #pragma once
 
+#include "grid/button_pictures.h"
 #include "grid/property.h"
 #include "grid/song.h"
 #include "grid/ui/panel.h"
-#include "midi/button_pictures.h"
 #include "midi/record_options.h"
 
 #include <functional>

@@ -68,7 +68,7 @@ int run_window(const CommandLine& line, OutputDevices& outputs, InputDevices& in
   theme::apply(application);
   SystemClock clock;
   const auto executable = QApplication::applicationFilePath().toStdString();
-  const StartUp::Wishes wishes = {line.output, line.input, keyboard_layout(line.keyboard)};
+  const StartUp::Wishes wishes = {line.output, line.input, detect_layout(line.keyboard)};
   WindowShell shell({outputs, inputs, clock, find_program_folders(executable), run_before_others},
                     wishes);
   return run(application, shell, line.song);

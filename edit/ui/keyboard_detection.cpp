@@ -64,7 +64,7 @@ LayoutSet layout_set_of_xkb(const std::string& layout) {
   return LayoutSet::kQwerty;
 }
 
-LayoutSet keyboard_layout(const std::string& wished) {
+LayoutSet detect_layout(const std::string& wished) {
   if (wished == "azerty") return LayoutSet::kAzerty;
   if (wished == "qwertz") return LayoutSet::kQwertz;
   if (wished == "qwerty") return LayoutSet::kQwerty;

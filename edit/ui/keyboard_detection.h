@@ -8,7 +8,7 @@ namespace lunavox {
 
 /// The layout set to play by.
 /// @param wished  "qwerty", "qwertz" or "azerty"; empty for the one of the system
-LayoutSet keyboard_layout(const std::string& wished);
+LayoutSet detect_layout(const std::string& wished);
 
 /// The layout set of an XKB layout name, such as "fr", "de,us" or "ch(fr)".
 LayoutSet layout_set_of_xkb(const std::string& layout);

@@ -6,9 +6,9 @@ namespace lunavox {
 namespace {
 
 TEST(KeyboardDetection, TheWishCountsBeforeTheSystem) {
-  EXPECT_EQ(keyboard_layout("azerty"), LayoutSet::kAzerty);
-  EXPECT_EQ(keyboard_layout("qwertz"), LayoutSet::kQwertz);
-  EXPECT_EQ(keyboard_layout("qwerty"), LayoutSet::kQwerty);
+  EXPECT_EQ(detect_layout("azerty"), LayoutSet::kAzerty);
+  EXPECT_EQ(detect_layout("qwertz"), LayoutSet::kQwertz);
+  EXPECT_EQ(detect_layout("qwerty"), LayoutSet::kQwerty);
 }
 
 TEST(KeyboardDetection, TheFirstLayoutOfTheSystemDecides) {
