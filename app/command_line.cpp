@@ -134,10 +134,6 @@ CommandLine read_command_line(const std::vector<std::string>& arguments) {
   return Reader(arguments).read();
 }
 
-std::string version_text() {
-  return "Lunavox 2.1";
-}
-
 std::string help_text() {
   return "Usage: lunavox [options] [SONG]\n"
          "\n"

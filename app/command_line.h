@@ -44,7 +44,4 @@ CommandLine read_command_line(const std::vector<std::string>& arguments);
 /// The text of --help.
 std::string help_text();
 
-/// The text of --version: "Lunavox 2.1".
-std::string version_text();
-
 }  // namespace lunavox

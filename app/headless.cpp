@@ -6,6 +6,8 @@
 #include "app/song_player.h"
 #include "app/start_up.h"
 #include "grid/progress.h"
+#include "grid/version.h"
+#include "midi/count_in_window.h"
 #include "midi/device_selection.h"
 #include "midi/ports/audio_file.h"
 #include "midi/ports/null_device.h"

@@ -1,6 +1,7 @@
 #include "files/file_commands.h"
 
 #include "grid/runtime_error.h"
+#include "grid/version.h"
 
 #include <algorithm>
 #include <system_error>
@@ -14,9 +15,9 @@ const FileQuestion kOpenQuestion = {"Lunavox (*.lvo;*.lvx)|*.lvo;*.lvx", "Open"}
 const FileQuestion kSaveQuestion = {"Lunavox 1.2 (*.lvx)|*.lvx", "Save"};
 const FileQuestion kExportQuestion = {"midi file (*.mid)|*.mid", "Export"};
 
+// After the name and the version.
 constexpr const char* kAbout =
-    "Lunavox 2.1\n"
-    "A tracker for General MIDI and XG sound modules.\n"
+    "\nA tracker for General MIDI and XG sound modules.\n"
     "Free software under the MIT licence.";
 
 std::string lower_case(std::string text) {
@@ -174,7 +175,7 @@ void FileCommands::menuhelp_click() {
 }
 
 void FileCommands::menuauthor_click() {
-  desk_.dialogs.message({kAbout, "About", Icon::kNone, Buttons::kOk});
+  desk_.dialogs.message({version_text() + kAbout, "About", Icon::kNone, Buttons::kOk});
 }
 
 void FileCommands::stop_playing() {

@@ -1,11 +1,6 @@
 #include "midi/transport.h"
 
 namespace lunavox {
-namespace {
-
-constexpr int kControlKey = 17;
-
-}  // namespace
 
 Transport::Transport(const Stage& stage, PlayLoop& play_loop, RealtimeRecordLoop& realtime)
     : stage_(stage), play_loop_(play_loop), realtime_(realtime) {}

@@ -18,6 +18,7 @@ class Transport {
   /// starts playback.
   /// @param key_code virtual-key code
   void key_down(int key_code);
+  static constexpr int kControlKey = 17;
 
  private:
   void start();

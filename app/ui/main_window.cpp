@@ -6,6 +6,7 @@
 #include "grid/status_text.h"
 #include "grid/ui/follow.h"
 #include "grid/ui/theme.h"
+#include "grid/version.h"
 #include "midi/transport.h"
 
 #include <QApplication>
@@ -23,7 +24,6 @@
 namespace lunavox {
 namespace {
 
-constexpr int kControlKey = 17;  // virtual-key code
 constexpr int kStatusMs = 1000;
 constexpr const char* kPlaceSetting = "window/place";
 
@@ -49,7 +49,7 @@ MainWindow::MainWindow(const WindowModel& model, const WindowCommands& commands)
                            model.keyboard, commands.effects_click)),
       status_(new StatusLine) {
   setObjectName(QStringLiteral("Form1"));
-  setWindowTitle(QStringLiteral("Lunavox 2.1"));
+  setWindowTitle(QString::fromStdString(version_text()));
   setAcceptDrops(true);
   auto* centre = new QWidget(this);
   auto* column = new QVBoxLayout(centre);
@@ -135,7 +135,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MainWindow::preview_key(const QKeyEvent& event) {
-  if (event.key() == Qt::Key_Control) model_.transport.key_down(kControlKey);
+  if (event.key() == Qt::Key_Control) model_.transport.key_down(Transport::kControlKey);
 }
 
 // A click anywhere else leaves a text box, also where what is clicked takes no keys: the text
