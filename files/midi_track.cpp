@@ -4,6 +4,7 @@
 #include "grid/note_text.h"
 #include "grid/runtime_error.h"
 #include "grid/runtime_numbers.h"
+#include "midi/short_message.h"
 #include "midi/xg_effects.h"
 
 namespace lunavox {
@@ -11,9 +12,6 @@ namespace {
 
 constexpr double kMicrosecondsPerMinute = 60000000;
 
-constexpr std::uint32_t kBankMsb = 0;
-constexpr std::uint32_t kBankLsb = 32;
-constexpr std::uint32_t kDrumBank = 127;
 constexpr std::uint32_t kFullVolume = 127;
 
 constexpr std::string_view kNoDelta = "00";
@@ -21,19 +19,9 @@ constexpr std::string_view kOneLine = "01";
 
 constexpr std::int32_t kSilent = -1;
 
-// By effect; Pitch has no controller of its own.
-constexpr std::array<std::uint32_t, kEffectSlots> kControllers = {0,  0,  7,  10, 1,  74,
-                                                                  91, 93, 94, 73, 72, 0};
-
 /// The 16 bits of a value, as its hexadecimal text shows them.
 std::uint32_t bits(int value) {
   return static_cast<std::uint16_t>(value);
-}
-
-std::string digits_of(const SysExBytes& bytes) {
-  std::string digits;
-  for (const std::uint8_t byte : bytes) digits += right_aligned(byte, 2);
-  return digits;
 }
 
 }  // namespace
@@ -72,21 +60,16 @@ void MidiTrackText::voice() {
 }
 
 void MidiTrackText::xg_setup() {
-  sysex("43104C00007E00F7");  // XG System On
-  sysex("43104C02015840F7");  // variation send to reverb: 64
-  sysex("43104C02015940F7");  // variation send to chorus: 64
-  sysex("43104C02015A01F7");  // variation connection: system
-  const auto effect_type = [&](XgList list, int item) {
-    sysex("43104C0201" + digits_of(xg_type_code(list, item)) + "F7");
-  };
-  effect_type(XgList::kReverb, song_.reverb);
-  effect_type(XgList::kChorus, song_.chorus);
-  effect_type(XgList::kVariation, song_.variation);
+  for (const SysExBytes& message : xg_module_setup()) sysex(message);
+  sysex(xg_type_message(XgList::kReverb, song_.reverb));
+  sysex(xg_type_message(XgList::kChorus, song_.chorus));
+  sysex(xg_type_message(XgList::kVariation, song_.variation));
 }
 
-void MidiTrackText::sysex(std::string_view bytes) {
-  text_ += "00F0" + right_aligned(static_cast<std::uint32_t>(bytes.size() / 2), 2);
-  text_ += bytes;
+// In a file the length stands behind the F0 and does not count it.
+void MidiTrackText::sysex(const SysExBytes& message) {
+  text_ += "00F0" + right_aligned(static_cast<std::uint32_t>(message.size() - 1), 2);
+  for (std::size_t i = 1; i < message.size(); ++i) text_ += right_aligned(message[i], 2);
 }
 
 void MidiTrackText::lines() {
@@ -121,7 +104,7 @@ void MidiTrackText::controller(int effect, int value) {
   if (effect == kPitch) {
     event.data(0).status('E', channel_);
   } else {
-    event.data(kControllers[static_cast<std::size_t>(effect)]).status('B', channel_);
+    event.data(static_cast<std::uint32_t>(controller_of(effect))).status('B', channel_);
   }
   // The first event of a line advances the time by the line.
   event.delta(first_controller_ ? kOneLine : kNoDelta);

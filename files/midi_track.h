@@ -2,6 +2,7 @@
 
 #include "files/note_deltas.h"
 #include "grid/song.h"
+#include "midi/devices.h"
 
 #include <array>
 #include <cstdint>
@@ -25,7 +26,7 @@ class MidiTrackText {
   void tempo();
   void voice();
   void xg_setup();
-  void sysex(std::string_view bytes);
+  void sysex(const SysExBytes& message);
   void lines();
   void line(int row);
   void controllers(int row);

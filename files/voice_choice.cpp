@@ -13,15 +13,7 @@ namespace {
 constexpr int kPreviewChannel = 15;
 constexpr int kPreviewVelocity = 126;
 
-constexpr int kBankMsb = 0;
-constexpr int kBankLsb = 32;
-
 constexpr Colour kDisabledText{64, 64, 64};
-
-std::uint32_t note_on(int note, int velocity) {
-  return static_cast<std::uint32_t>(velocity) << 16 | static_cast<std::uint32_t>(note) << 8 |
-         0x90U | channel_nibble(kPreviewChannel);
-}
 
 }  // namespace
 
@@ -51,12 +43,12 @@ void VoiceChoice::instrulist_mousedown(VoiceCell cell) {
   desk_.port.send(control_change(kPreviewChannel, kBankLsb, bank));
   desk_.port.send(program_change(kPreviewChannel, cell.program));
   sounding_note_ = preview_note();
-  desk_.port.send(note_on(*sounding_note_, kPreviewVelocity));
+  desk_.port.send(note_on(kPreviewChannel, *sounding_note_, kPreviewVelocity));
 }
 
 void VoiceChoice::instrulist_mouseup() {
   // The note that was pressed, though the octave may have been changed since.
-  if (sounding_note_) desk_.port.send(note_on(*sounding_note_, 0));
+  if (sounding_note_) desk_.port.send(note_on(kPreviewChannel, *sounding_note_, 0));
   sounding_note_.reset();
 }
 

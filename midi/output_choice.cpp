@@ -1,16 +1,12 @@
 #include "midi/output_choice.h"
 
 #include "grid/runtime_error.h"
+#include "midi/xg_effects.h"
 
 #include <algorithm>
 
 namespace lunavox {
 namespace {
-
-const SysExBytes kXgSystemOn = {0xF0, 0x43, 0x10, 0x4C, 0x00, 0x00, 0x7E, 0x00, 0xF7};
-const SysExBytes kVariationToReverb = {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01, 0x58, 0x40, 0xF7};
-const SysExBytes kVariationToChorus = {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01, 0x59, 0x40, 0xF7};
-const SysExBytes kVariationIsSystem = {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01, 0x5A, 0x01, 0xF7};
 
 /// Place of a name in a list: the place where it used to be if it is still there, since two devices
 /// may have one name; else the first; else the list's length.
@@ -86,10 +82,7 @@ void OutputChoice::check_item(int index) {
 }
 
 void OutputChoice::set_up_module() {
-  for (const auto* message :
-       {&kXgSystemOn, &kVariationToReverb, &kVariationToChorus, &kVariationIsSystem}) {
-    port_.sendsysex(*message);
-  }
+  for (const SysExBytes& message : xg_module_setup()) port_.sendsysex(message);
   // What the module has after XG System On. Nothing is sent, and the song counts as unchanged.
   song_.reverb = 0;
   song_.chorus = 0;

@@ -18,6 +18,12 @@ constexpr std::uint32_t channel_nibble(int channel) {
   return static_cast<std::uint32_t>(channel) & 0xFU;
 }
 
+/// Velocity, note, "9", channel digit; velocity 0 ends the note.
+constexpr std::uint32_t note_on(int channel, int note, int velocity) {
+  return static_cast<std::uint32_t>(velocity) << 16 | static_cast<std::uint32_t>(note) << 8 |
+         0x90U | channel_nibble(channel);
+}
+
 /// Value, two digits of controller, "b", channel digit.
 constexpr std::uint32_t control_change(int channel, int controller, int value) {
   return static_cast<std::uint32_t>(static_cast<std::uint16_t>(value)) << 16 |
@@ -36,15 +42,26 @@ constexpr std::uint32_t pitch_bend(int channel, int value) {
          channel_nibble(channel);
 }
 
+// The controllers that choose the bank of the voices, and the bank of XG's drum kits.
+inline constexpr int kBankMsb = 0;
+inline constexpr int kBankLsb = 32;
+inline constexpr int kDrumBank = 127;
+
+/// The controller that a curve is sent by.
+/// @param effect kVolume..kRelease; others, Pitch too, throw RuntimeError (Subscript out of range)
+constexpr int controller_of(int effect) {
+  constexpr std::array<int, kEffectSlots> kControllers = {0, 0, 7, 10, 1, 74, 91, 93, 94, 73, 72};
+  if (effect < kFirstCurve || effect > kRelease) {
+    throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
+  }
+  return kControllers[static_cast<std::size_t>(effect)];
+}
+
 /// The message of an effect value on a channel.
 /// @param effect kVolume..kPitch; others throw RuntimeError (Subscript out of range)
 constexpr std::uint32_t curve_message(int effect, int channel, int value) {
-  constexpr std::array<int, kEffectSlots> kControllers = {0, 0, 7, 10, 1, 74, 91, 93, 94, 73, 72};
-  if (effect < kFirstCurve || effect > kLastEffect) {
-    throw RuntimeError(RuntimeError::kSubscriptOutOfRange);
-  }
   if (effect == kPitch) return pitch_bend(channel, value);
-  return control_change(channel, kControllers[static_cast<std::size_t>(effect)], value);
+  return control_change(channel, controller_of(effect), value);
 }
 
 inline constexpr int kPitchCentre = 64;

@@ -5,17 +5,14 @@
 namespace lunavox {
 namespace {
 
-constexpr int kBankMsb = 0;
-constexpr int kBankLsb = 32;
-constexpr int kDrumBank = 127;
-constexpr std::uint32_t kSilentNote = 0x003090;  // note 48 at velocity 0
+constexpr int kSilentNote = 48;
 
 void select_voice(const Song& song, int track, OutputPort& port) {
   const int channel = song.channel.at(track);
   port.send(control_change(channel, kBankMsb, track == kDrumTrack ? kDrumBank : 0));
   port.send(control_change(channel, kBankLsb, song.bank.at(track)));
   port.send(program_change(channel, song.values.at(track, kInstrument, 1)));
-  port.send(kSilentNote | channel_nibble(channel));
+  port.send(note_on(channel, kSilentNote, 0));
 }
 
 }  // namespace

@@ -88,6 +88,20 @@ SysExBytes xg_type_code(XgList list, int item) {
   return {table.address, type.msb, type.lsb};
 }
 
+const SysExBytes& xg_system_on() {
+  return xg_module_setup().front();
+}
+
+const std::vector<SysExBytes>& xg_module_setup() {
+  static const std::vector<SysExBytes> kSetup = {
+      {0xF0, 0x43, 0x10, 0x4C, 0x00, 0x00, 0x7E, 0x00, 0xF7},  // System On
+      {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01, 0x58, 0x40, 0xF7},  // variation send to reverb: 64
+      {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01, 0x59, 0x40, 0xF7},  // variation send to chorus: 64
+      {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01, 0x5A, 0x01, 0xF7},  // variation connection: system
+  };
+  return kSetup;
+}
+
 SysExBytes xg_type_message(XgList list, int item) {
   SysExBytes message = {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01};
   const SysExBytes code = xg_type_code(list, item);

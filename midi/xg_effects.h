@@ -19,6 +19,13 @@ const std::vector<std::string>& xg_names(XgList list);
 /// have, such as -1 for no selection.
 SysExBytes xg_type_code(XgList list, int item);
 
+/// XG System On, F0 ... F7: the module is an XG module, at its defaults.
+const SysExBytes& xg_system_on();
+
+/// What a module is set up by, in order: XG System On, and the variation as a system effect that
+/// feeds reverb and chorus at 64.
+const std::vector<SysExBytes>& xg_module_setup();
+
 /// The parameter change that selects an item's effect type, F0 ... F7. Without a valid item it is
 /// sent bare, without address low byte and data.
 SysExBytes xg_type_message(XgList list, int item);

@@ -1,5 +1,7 @@
 #include "midi/ports/xg_system_effects.h"
 
+#include "midi/xg_effects.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -46,11 +48,6 @@ constexpr std::array<EffectType<ChorusShape>, 11> kChoruses = {{
 constexpr std::uint8_t kReverbAddress = 0x00;
 constexpr std::uint8_t kChorusAddress = 0x20;
 
-bool is_xg_system_on(const SysExBytes& data) {
-  static const SysExBytes kMessage = {0xF0, 0x43, 0x10, 0x4C, 0x00, 0x00, 0x7E, 0x00, 0xF7};
-  return data == kMessage;
-}
-
 /// The type that a parameter change gives to the effect at an address of the system effects.
 std::optional<std::uint16_t> type_given(const SysExBytes& data, std::uint8_t address) {
   const std::array<std::uint8_t, 7> head = {0xF0, 0x43, 0x10, 0x4C, 0x02, 0x01, address};
@@ -64,7 +61,7 @@ std::optional<std::uint16_t> type_given(const SysExBytes& data, std::uint8_t add
 template <class Shape>
 std::optional<Shape> chosen(std::span<const EffectType<Shape>> types, const SysExBytes& data,
                             std::uint8_t address) {
-  if (is_xg_system_on(data)) return types.front().shape;
+  if (data == xg_system_on()) return types.front().shape;
   const auto code = type_given(data, address);
   const auto found = std::find_if(types.begin(), types.end(),
                                   [&](const EffectType<Shape>& type) { return code == type.code; });
