@@ -6,9 +6,6 @@
 namespace lunavox {
 namespace {
 
-/// Waiting by sleep ends this much early, and the rest is waited for on the clock: a sleep may last
-/// longer than it was told, a line may not.
-constexpr std::int32_t kBusyWaitMs = 2;
 /// The longest sleep, so that a stop is noticed at once.
 constexpr std::int32_t kLongestSleepMs = 20;
 
@@ -48,7 +45,7 @@ void SongPlayer::play_in_real_time(const std::atomic<bool>& stop) {
 
 void SongPlayer::wait_until(std::uint32_t due, const std::atomic<bool>& stop) {
   while (!stop) {
-    const auto left = static_cast<std::int32_t>(due - editor_.world.clock.timeGetTime());
+    const auto left = remaining_ms(editor_.world.clock.timeGetTime(), due);
     if (left <= 0) return;
     if (left <= kBusyWaitMs) continue;
     sleep_(std::chrono::milliseconds(std::min(left - kBusyWaitMs, kLongestSleepMs)));

@@ -17,6 +17,15 @@ constexpr std::uint32_t elapsed_ms(std::uint32_t from, std::uint32_t to) {
   return to - from;
 }
 
+/// Milliseconds that remain until a clock reading, negative where it is past.
+constexpr std::int32_t remaining_ms(std::uint32_t now, std::uint32_t due) {
+  return static_cast<std::int32_t>(due - now);
+}
+
+/// A wait for a line ends this much early, and the rest is waited for on the clock: a timer or a
+/// sleep may come this much late even on an idle machine, a line may not.
+inline constexpr std::int32_t kBusyWaitMs = 2;
+
 /// The steady clock of the machine.
 class SystemClock : public Clock {
  public:

@@ -169,7 +169,7 @@ void WindowShell::keep_song() {
   recovery_.pass(clock_.timeGetTime());
   const auto due = recovery_.next_due();
   if (!due) return;
-  const auto left = static_cast<std::int32_t>(elapsed_ms(clock_.timeGetTime(), *due));
+  const auto left = remaining_ms(clock_.timeGetTime(), *due);
   recovery_timer_.start(std::max(left, 1));
 }
 

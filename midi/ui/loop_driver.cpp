@@ -8,16 +8,6 @@
 #include <thread>
 
 namespace lunavox {
-namespace {
-
-// Timers come this much late at worst on an idle machine; the rest is waited out on the clock.
-constexpr std::int32_t kSpinMs = 2;
-
-std::int32_t remaining_ms(std::uint32_t now, std::uint32_t due) {
-  return static_cast<std::int32_t>(elapsed_ms(now, due));
-}
-
-}  // namespace
 
 LoopDriver::LoopDriver(CurrentLoop& current, Clock& clock, std::function<void(bool)> hurry)
     : current_(current), clock_(clock), hurry_(std::move(hurry)) {
@@ -66,7 +56,8 @@ void LoopDriver::make_room(int work_ms) {
   const auto left = left_ms();
   if (in_pass_ || !left || *left > work_ms) return;
   // In short sleeps, to notice what arrives; counted, for a clock that is set by hand stands still.
-  for (int sleeps = *left - kSpinMs; sleeps > 0 && left_ms().value_or(0) > kSpinMs; --sleeps) {
+  for (int sleeps = *left - kBusyWaitMs; sleeps > 0 && left_ms().value_or(0) > kBusyWaitMs;
+       --sleeps) {
     std::this_thread::sleep_for(std::chrono::milliseconds(1));
     if (woken_.exchange(false)) run();
   }
@@ -81,7 +72,7 @@ std::optional<std::int32_t> LoopDriver::left_ms() {
 }
 
 void LoopDriver::wait_until(std::uint32_t due) {
-  if (remaining_ms(clock_.timeGetTime(), due) > kSpinMs) return;
+  if (remaining_ms(clock_.timeGetTime(), due) > kBusyWaitMs) return;
   while (remaining_ms(clock_.timeGetTime(), due) > 0) {
   }
 }
@@ -94,7 +85,7 @@ void LoopDriver::schedule() {
     return;
   }
   // An overdue loop goes on after the window events that wait.
-  timer_.start(std::max(*left - kSpinMs, 0));
+  timer_.start(std::max(*left - kBusyWaitMs, 0));
 }
 
 void LoopDriver::hurry(bool lines) {
