@@ -11,7 +11,11 @@ inline constexpr MidiResult kPortGone = 3;     ///< nothing can be sent any more
 inline constexpr MidiResult kPortBusy = 4;     ///< no room for the message at present
 inline constexpr MidiResult kNotSent = 5;      ///< the MIDI service refused it
 
-/// One sentence for each of them.
+/// What status() of an output says that went by way of a JACK server which is gone.
+inline constexpr const char* kJackStopped =
+    "The JACK server has stopped: nothing is heard any more.";
+
+/// One sentence for each of the results.
 std::string port_result_text(MidiResult result);
 
 /// Keeps the order of the three steps of System Exclusive sending.

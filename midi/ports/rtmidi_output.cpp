@@ -111,7 +111,7 @@ std::string RtMidiOutput::status() const {
   using State = ReturningPort<RtMidiOut>::State;
   switch (port_.state()) {
     case State::kNoService:
-      return "The JACK server has stopped: nothing is heard any more.";
+      return kJackStopped;
     case State::kAway:
       return "The MIDI output \"" + port_.wanted() + "\" is gone.";
     default:

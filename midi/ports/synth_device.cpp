@@ -56,9 +56,7 @@ void SynthDevice::look_after() {
 
 std::string SynthDevice::status() const {
   if (silent_) return "No sound card was found: the synthesiser plays silently.";
-  if (through_jack_ && !heard_through_jack()) {
-    return "The JACK server has stopped: nothing is heard any more.";
-  }
+  if (through_jack_ && !heard_through_jack()) return kJackStopped;
   return {};
 }
 
