@@ -63,29 +63,31 @@ int in_row(const std::array<int, Size>& row, PhysicalKey first, PhysicalKey key)
   return row[static_cast<std::size_t>(index)];
 }
 
-/// A key that is the same on every layout.
+/// A key that is the same on every layout, and its virtual-key code.
 struct CommonKey {
-  int place;
+  PhysicalKey place;
   int code;
 };
 
 constexpr std::array kCommonKeys = {
-    CommonKey{1, 27},                                            // Escape
-    CommonKey{14, 8},   CommonKey{15, 9},                        // Backspace, Tab
-    CommonKey{28, 13},  CommonKey{96, 13},                       // Enter
-    CommonKey{29, 17},  CommonKey{97, 17},                       // Ctrl
-    CommonKey{42, 16},  CommonKey{54, 16},                       // Shift
-    CommonKey{56, 18},  CommonKey{100, 18}, CommonKey{58, 20},   // Alt, Caps Lock
-    CommonKey{57, 32},                                           // Space
-    CommonKey{59, 112}, CommonKey{60, 113}, CommonKey{61, 114},  // F1 ...
-    CommonKey{62, 115}, CommonKey{63, 116}, CommonKey{64, 117},
-    CommonKey{65, 118}, CommonKey{66, 119}, CommonKey{67, 120},
-    CommonKey{68, 121}, CommonKey{87, 122}, CommonKey{88, 123},  // ... F12
-    CommonKey{86, 226},                                          // the extra key
-    CommonKey{102, 36}, CommonKey{103, 38}, CommonKey{104, 33},  // Home, Up, Page Up
-    CommonKey{105, 37}, CommonKey{106, 39}, CommonKey{107, 35},  // Left, Right, End
-    CommonKey{108, 40}, CommonKey{109, 34},                      // Down, Page Down
-    CommonKey{110, 45}, CommonKey{111, 46},                      // Insert, Delete
+    CommonKey{PhysicalKey::kEscape, 27},     CommonKey{PhysicalKey::kBackspace, 8},
+    CommonKey{PhysicalKey::kTab, 9},         CommonKey{PhysicalKey::kEnter, 13},
+    CommonKey{PhysicalKey::kPadEnter, 13},   CommonKey{PhysicalKey::kLeftCtrl, 17},
+    CommonKey{PhysicalKey::kRightCtrl, 17},  CommonKey{PhysicalKey::kLeftShift, 16},
+    CommonKey{PhysicalKey::kRightShift, 16}, CommonKey{PhysicalKey::kLeftAlt, 18},
+    CommonKey{PhysicalKey::kRightAlt, 18},   CommonKey{PhysicalKey::kCapsLock, 20},
+    CommonKey{PhysicalKey::kSpace, 32},      CommonKey{PhysicalKey::kF1, 112},
+    CommonKey{PhysicalKey::kF2, 113},        CommonKey{PhysicalKey::kF3, 114},
+    CommonKey{PhysicalKey::kF4, 115},        CommonKey{PhysicalKey::kF5, 116},
+    CommonKey{PhysicalKey::kF6, 117},        CommonKey{PhysicalKey::kF7, 118},
+    CommonKey{PhysicalKey::kF8, 119},        CommonKey{PhysicalKey::kF9, 120},
+    CommonKey{PhysicalKey::kF10, 121},       CommonKey{PhysicalKey::kF11, 122},
+    CommonKey{PhysicalKey::kF12, 123},       CommonKey{PhysicalKey::kExtra, 226},
+    CommonKey{PhysicalKey::kHome, 36},       CommonKey{PhysicalKey::kUp, 38},
+    CommonKey{PhysicalKey::kPageUp, 33},     CommonKey{PhysicalKey::kLeft, 37},
+    CommonKey{PhysicalKey::kRight, 39},      CommonKey{PhysicalKey::kEnd, 35},
+    CommonKey{PhysicalKey::kDown, 40},       CommonKey{PhysicalKey::kPageDown, 34},
+    CommonKey{PhysicalKey::kInsert, 45},     CommonKey{PhysicalKey::kDelete, 46},
 };
 
 }  // namespace
@@ -99,7 +101,7 @@ int virtual_key(PhysicalKey key, LayoutSet layout) {
   if (const int code = in_row(keys.home_row, PhysicalKey::kA, key)) return code;
   if (const int code = in_row(keys.lower_row, PhysicalKey::kZ, key)) return code;
   for (const CommonKey& common : kCommonKeys) {
-    if (common.place == static_cast<int>(key)) return common.code;
+    if (common.place == key) return common.code;
   }
   return kOtherVirtualKey;
 }
