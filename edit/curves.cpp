@@ -5,9 +5,6 @@
 namespace lunavox {
 namespace {
 
-constexpr const char* kYes = "yes";
-constexpr const char* kNo = "no";
-
 // A typed key value may be 0; a start value may not.
 constexpr int kMinimumStartValue = 1;
 constexpr int kMaximumStartValue = 127;

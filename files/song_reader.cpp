@@ -90,7 +90,7 @@ void SongReader::read_effects_column(int column) {
     write_setting(column, kPitch, fields_.text());
   } else {
     write_setting(column, kPitch,
-                  setting_of_effects_column(column) == Setting::kStartValue ? "64" : "no");
+                  setting_of_effects_column(column) == Setting::kStartValue ? "64" : kNo);
   }
 }
 
@@ -98,7 +98,7 @@ void SongReader::write_setting(int column, int effect, std::string_view text) {
   song_.effects.set_text(effect, column, text);
   if (setting_of_effects_column(column) != Setting::kActive) return;
   const int track = track_of_effects_column(column);
-  song_.active.at(track)[static_cast<std::size_t>(effect)] = trimmed(text) == "yes";
+  song_.active.at(track)[static_cast<std::size_t>(effect)] = trimmed(text) == kYes;
 }
 
 void SongReader::read_used_columns() {

@@ -13,6 +13,9 @@ inline constexpr int kNoteColumns = 8;
 
 /// A setting of a track in the `effects` grid, by its place among the track's three columns.
 enum class Setting { kActive = 1, kStartValue = 2, kShow = 3 };
+// What the cells of kActive and kShow say, in song files too.
+inline constexpr const char* kYes = "yes";
+inline constexpr const char* kNo = "no";
 
 /// The track whose columns hold a `tracks` column; column 0 counts as track 1.
 int track_of_column(int column);

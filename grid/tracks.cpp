@@ -126,9 +126,9 @@ void Tracks::write_settings(int track, const std::string& voice) {
   for (int e = kFirstEffect; e <= kLastEffect; ++e) {
     const auto index = static_cast<std::size_t>(e);
     song_.active.at(track)[index] = e == kInstrument;
-    effects.set_text(e, active, e == kInstrument ? "yes" : "no");
+    effects.set_text(e, active, e == kInstrument ? kYes : kNo);
     effects.set_text(e, start, e == kInstrument ? voice : kStartTexts[index]);
-    effects.set_text(e, show, e == kVolume ? "yes" : "no");
+    effects.set_text(e, show, e == kVolume ? kYes : kNo);
   }
 }
 

@@ -1,5 +1,6 @@
 #include "grid/ui/cell_painter.h"
 
+#include "grid/track_columns.h"
 #include "grid/ui/file_text.h"
 #include "grid/ui/theme.h"
 
@@ -49,7 +50,7 @@ QColor ground_of(const Cell& cell, const CellSurroundings& around) {
 QColor text_colour_of(const Cell& cell, const CellSurroundings& around) {
   const bool own_colours = cell.text_colour != kWhite || cell.background != kBlack;
   if (own_colours) return theme::colour(cell.text_colour);
-  if (around.switch_cell) return cell.text == "yes" ? theme::kAccent : theme::kFaintText;
+  if (around.switch_cell) return cell.text == kYes ? theme::kAccent : theme::kFaintText;
   return theme::kText;
 }
 
