@@ -2,6 +2,7 @@
 
 #include "grid/ui/cell_grid_model.h"
 #include "grid/ui/cell_painter.h"
+#include "grid/ui/wheel_notches.h"
 
 #include <QTableView>
 #include <QTimer>
@@ -115,7 +116,7 @@ class GridView : public QTableView, private CellGridObserver {
   bool scrolling_ = false;  // the scroll position is being taken over from the grid
   bool dragging_ = false;
   QPoint drag_point_;
-  int wheel_rest_ = 0;  // turn of the wheel that did not make up a step yet
+  WheelNotches wheel_;
   QTimer drag_timer_;
   long painted_cells_ = 0;
 };

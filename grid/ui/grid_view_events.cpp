@@ -114,10 +114,8 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
 
 void GridView::wheelEvent(QWheelEvent* event) {
   event->accept();
-  wheel_rest_ += event->angleDelta().y();
-  const int steps = wheel_rest_ / QWheelEvent::DefaultDeltasPerStep;
-  wheel_rest_ -= steps * QWheelEvent::DefaultDeltasPerStep;
-  verticalScrollBar()->setValue(verticalScrollBar()->value() - steps * kWheelRows);
+  const int rows = wheel_.take(*event) * kWheelRows;
+  verticalScrollBar()->setValue(verticalScrollBar()->value() - rows);
 }
 
 void GridView::focusInEvent(QFocusEvent* event) {

@@ -73,10 +73,7 @@ void StepBar::mouseReleaseEvent(QMouseEvent* event) {
 
 void StepBar::wheelEvent(QWheelEvent* event) {
   event->accept();
-  wheel_rest_ += event->angleDelta().y();
-  const int steps = wheel_rest_ / QWheelEvent::DefaultDeltasPerStep;
-  wheel_rest_ -= steps * QWheelEvent::DefaultDeltasPerStep;
-  if (steps != 0) setValue(value() + steps);
+  setValue(value() + wheel_.take(*event));
 }
 
 }  // namespace lunavox

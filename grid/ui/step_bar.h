@@ -1,5 +1,7 @@
 #pragma once
 
+#include "grid/ui/wheel_notches.h"
+
 #include <QScrollBar>
 
 namespace lunavox {
@@ -22,8 +24,8 @@ class StepBar : public QScrollBar {
  private:
   void paint_half(QPainter& painter, const QRect& half, bool up) const;
 
-  int wheel_rest_ = 0;  // turn of the wheel that did not make up a step yet
-  int pressed_ = 0;     // +1 while the upper half is held, -1 for the lower, else 0
+  WheelNotches wheel_;
+  int pressed_ = 0;  // +1 while the upper half is held, -1 for the lower, else 0
 };
 
 }  // namespace lunavox
