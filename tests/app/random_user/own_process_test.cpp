@@ -1,5 +1,7 @@
 #include "own_process.h"
 
+#include "waits.h"
+
 #include <csignal>
 #include <cstdlib>
 #include <stdexcept>
@@ -10,15 +12,9 @@
 namespace lunavox {
 namespace {
 
-using test::Deed;
 using test::Outcome;
 using test::Script;
-
-Script waits(int count) {
-  Script script;
-  for (int i = 0; i < count; ++i) script.push_back({Deed::kWait, i, 0});
-  return script;
-}
+using test::waits;
 
 /// A replay with a fault that shows once 17 and later 60 have been waited.
 test::ToldReplay with_fault(const std::function<void()>& fault) {

@@ -1,5 +1,7 @@
 #include "shortest_script.h"
 
+#include "waits.h"
+
 #include <algorithm>
 
 #include <gtest/gtest.h>
@@ -11,12 +13,7 @@ using test::Action;
 using test::Deed;
 using test::Outcome;
 using test::Script;
-
-Script waits(int count) {
-  Script script;
-  for (int i = 0; i < count; ++i) script.push_back({Deed::kWait, i, 0});
-  return script;
-}
+using test::waits;
 
 TEST(ShortestScript, KeepsOnlyTheActionsThatItTakesToFail) {
   // Fails once 17 and later 60 have been waited.

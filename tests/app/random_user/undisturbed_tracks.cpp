@@ -122,7 +122,7 @@ void UndisturbedTracks::remember(const Editor& editor, const Action& action) {
   clicked_ = 0;
   if (deed_ == Deed::kClickEffects) {
     const int column = action.a % editor.song.effects.columns();
-    clicked_ = (column + kSettingsPerTrack - 1) / kSettingsPerTrack;
+    if (column > 0) clicked_ = track_of_effects_column(column);
   }
 }
 
